@@ -1,0 +1,42 @@
+# How everything of this project is compiled, and how a layer of it is declared.
+
+add_library(kervol_options INTERFACE)
+target_include_directories(kervol_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+# -Wrestrict of g++ 12 is wrong about joined strings (its bug 105651).
+# Contracted multiply-adds and relaxed arithmetic would make results differ between builds.
+target_compile_options(kervol_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wfloat-equal -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wno-restrict -Werror
+    -ffp-contract=off)
+if(KERVOL_SANITIZE)
+    target_compile_options(kervol_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_definitions(kervol_options INTERFACE _GLIBCXX_ASSERTIONS)
+    target_link_options(kervol_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(KERVOL_COVERAGE)
+    target_compile_options(kervol_options INTERFACE --coverage -fprofile-update=atomic)
+    target_link_options(kervol_options INTERFACE --coverage)
+endif()
+
+# kervol_layer(<folder> [<layer it builds on>...]): the library of one folder of src/ with all its sources.
+function(kervol_layer name)
+    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${name}/*.cpp)
+    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+    add_library(kervol_${name} STATIC ${sources})
+    target_link_libraries(kervol_${name} PUBLIC kervol_options)
+    foreach(layer IN LISTS ARGN)
+        target_link_libraries(kervol_${name} PUBLIC kervol_${layer})
+    endforeach()
+endfunction()
+
+# kervol_tests(<folder> <layer>...): one test program of tests/<folder>/, its cases known to CTest one by one.
+function(kervol_tests name)
+    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${name}/*.cpp)
+    add_executable(test_${name} ${sources})
+    target_link_libraries(test_${name} PRIVATE kervol_test_support GTest::gmock GTest::gtest GTest::gtest_main)
+    foreach(layer IN LISTS ARGN)
+        target_link_libraries(test_${name} PRIVATE kervol_${layer})
+    endforeach()
+    gtest_discover_tests(test_${name} TEST_PREFIX "${name}/" PROPERTIES TIMEOUT 300 DISCOVERY_TIMEOUT 60)
+endfunction()

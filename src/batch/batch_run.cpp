@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/batch_run.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "core/fault.h"
+#include "kinematics/examples.h"
+#include "startup/launch.h"
+
+namespace kervol {
+namespace {
+
+/// How to mend what a fault number tells.
+std::string_view Remedy(std::int32_t number) {
+    static constexpr auto kRemedies = std::to_array<std::pair<std::int32_t, std::string_view>>({
+        {fault::Overflow, "a number there is too large"},
+        {fault::Subscript, "there are more rows than the tables hold; reduce the number of steps"},
+        {fault::DivisionByZero,
+         "a length of 0, or a position without a direction; check the lengths and pivots"},
+        {fault::TypeMismatch, "a number or #TRUE# or #FALSE# belongs there; mend that line"},
+        {fault::BadFileNameOrNumber, "check the name"},
+        {fault::FileNotFound, "check the name"},
+        {fault::DeviceIO, "check the device"},
+        {fault::DiskFull, "make room, then write again"},
+        {fault::InputPastEnd, "the file is cut there; complete it, or save the model again"},
+        {fault::PermissionDenied, "check your rights to the file"},
+        {fault::PathFileAccess, "name a plain file, not a folder or device"},
+        {fault::PathNotFound, "check the folder"},
+    });
+    const auto* found = std::find_if(kRemedies.begin(), kRemedies.end(),
+                                     [&](const auto& entry) { return entry.first == number; });
+    return found == kRemedies.end() ? "check the model" : found->second;
+}
+
+}  // namespace
+
+BatchRun::BatchRun(Answer on_failure) : program_(std::make_unique<Program>(port_)) {
+    port_.answer = [on_failure](const MessageBox& box) {
+        return box.buttons == Buttons::AbortRetryIgnore ? on_failure : Answer::None;
+    };
+    Start_Fresh(*program_);
+    program_->model.StartingUp = false;
+}
+
+bool BatchRun::Open(const std::string& path) {
+    source_ = path;
+    Clear_Tables(*program_);
+    read_ = Open_Model(*program_, path);
+    return read_.end != ReadEnd::Nothing;
+}
+
+bool BatchRun::Load(const std::string& name) {
+    source_ = "example " + name;
+    const Example* example = Find_Example(name);
+    if (example == nullptr) return false;
+    Load_Example(program_->model, *example);
+    return true;
+}
+
+void BatchRun::Calculate() {
+    end_ = Calculate_Model(*program_);
+}
+
+ExitCode BatchRun::Outcome() const {
+    if (read_.end != ReadEnd::Whole || !program_->faults.entries.empty()) return Failed;
+    if (end_ != CalculationEnd::Done) return GivenUp;
+    return program_->model.SomeStepFailed ? SomeFailed : Done;
+}
+
+std::string BatchRun::Complaint() const {
+    if (Outcome() == Done) return {};
+    std::string reason = program_->faults.entries.empty() ? Reading_Complaint() : Fault_Complaint();
+    if (reason.empty()) reason = Calculation_Complaint();
+    return source_ + ": " + reason;
+}
+
+std::string BatchRun::Write_Complaint(const std::string& path) const {
+    const std::int32_t number = program_->faults.entries.back().number;
+    return path + ": " + std::string(Fault_Description(number)) + ": " + std::string(Remedy(number));
+}
+
+std::string BatchRun::Reading_Complaint() const {
+    if (read_.end == ReadEnd::Whole) return {};
+    if (read_.line > 2) return "no model stands behind the first two lines; save the model again";
+    return "not a model of this program; its first line must be \"KERVOL for Windows\" or \"KERVOL\"";
+}
+
+std::string BatchRun::Fault_Complaint() const {
+    const auto& faults = program_->faults.entries;
+    const ReportedFault& first = faults.front();
+    std::string text;
+    if (read_.end != ReadEnd::Whole && read_.line > 0) text += "line " + std::to_string(read_.line) + ": ";
+    text += Fault_Description(first.number);
+    if (read_.end == ReadEnd::Whole) text += " in " + first.procedure;
+    if (faults.size() > 1) text += ", the first of " + std::to_string(faults.size()) + " faults";
+    return text + ": " + std::string(Remedy(first.number));
+}
+
+std::string BatchRun::Calculation_Complaint() const {
+    const LinkageModel& model = program_->model;
+    if (end_ == CalculationEnd::Refused) return "refused: " + port_.messages.back().box.text;
+    if (end_ == CalculationEnd::Abandoned)
+        return "given up at the first position that does not assemble; --on-failure ignore goes on";
+    int failed = 0;
+    for (int step = 0; step <= std::min<int>(model.NumSteps, MaxSteps); ++step)
+        if (!program_->tables.StepValid(step)) ++failed;
+    return std::to_string(failed) + " of " + std::to_string(model.NumSteps + 1) +
+           " steps do not assemble and are zero; \"kervol-batch info\" lists them";
+}
+
+}  // namespace kervol

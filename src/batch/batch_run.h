@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One model in a run without a display: opening, calculating, and how it went.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "core/program.h"
+#include "files/model_file.h"
+#include "headless/recording_port.h"
+#include "kinematics/step_count.h"
+
+namespace kervol {
+
+/// What `kervol-batch` returns to the system.
+enum ExitCode {
+    Done = 0,
+    WrongUse = 1,
+    Failed = 2,      ///< a file could not be read whole or written, or a numeric fault was reported
+    SomeFailed = 3,  ///< done, but some step did not assemble
+    GivenUp = 4,     ///< refused or abandoned
+};
+
+class BatchRun {
+  public:
+    explicit BatchRun(Answer on_failure);
+
+    /// A fresh start followed by Open. False where nothing could be read.
+    bool Open(const std::string& path);
+    /// A fresh start followed by the example. False where there is none of that name.
+    bool Load(const std::string& example);
+    void Calculate();
+
+    /// Nothing to complain about is `Done`; else the gravest of what happened.
+    ExitCode Outcome() const;
+    /// One line: what went wrong, where, how to mend it. Empty for `Done`.
+    std::string Complaint() const;
+
+    /// One line for a file that could not be written, after the fault was reported.
+    std::string Write_Complaint(const std::string& path) const;
+
+    Program& program() { return *program_; }
+    const RecordingPort& port() const { return port_; }
+
+  private:
+    std::string Reading_Complaint() const;
+    std::string Fault_Complaint() const;
+    std::string Calculation_Complaint() const;
+
+    RecordingPort port_;
+    std::unique_ptr<Program> program_;
+    std::string source_;
+    ReadReport read_{ReadEnd::Whole, 0};
+    CalculationEnd end_ = CalculationEnd::Done;
+};
+
+}  // namespace kervol

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/commands.h"
+
+#include <array>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "batch/batch_run.h"
+#include "batch/summary.h"
+#include "batch/tables_json.h"
+#include "core/path_text.h"
+#include "core/report.h"
+#include "files/model_file.h"
+#include "files/output_file.h"
+#include "kinematics/examples.h"
+#include "startup/launch.h"
+
+#include <CLI/CLI.hpp>
+
+namespace kervol {
+namespace {
+
+/// What the command line gave; each command uses its own part.
+struct Arguments {
+    std::string model;
+    std::string example;
+    std::string output;
+    Answer on_failure = Answer::Ignore;
+};
+
+class Commands {
+  public:
+    Commands(std::ostream& out, std::ostream& err) : out_(out), err_(err) {}
+
+    int Tables(const Arguments& arguments);
+    int Info(const Arguments& arguments);
+    int Convert(const Arguments& arguments);
+    int Save_Example(const Arguments& arguments);
+    int Complain(ExitCode code, const std::string& text);
+
+  private:
+    static bool Take_Model(BatchRun& run, const Arguments& arguments);
+    int Close(const BatchRun& run);
+    int Save(BatchRun& run, const std::string& path);
+
+    std::ostream& out_;
+    std::ostream& err_;
+};
+
+int Commands::Complain(ExitCode code, const std::string& text) {
+    if (!text.empty()) err_ << "kervol-batch: " << text << '\n';
+    return code;
+}
+
+int Commands::Close(const BatchRun& run) {
+    return Complain(run.Outcome(), run.Complaint());
+}
+
+bool Commands::Take_Model(BatchRun& run, const Arguments& arguments) {
+    return arguments.example.empty() ? run.Open(arguments.model) : run.Load(arguments.example);
+}
+
+int Commands::Tables(const Arguments& arguments) {
+    BatchRun run(arguments.on_failure);
+    if (!Take_Model(run, arguments)) return Close(run);
+    run.Calculate();
+    const std::string json = Tables_Json(run.program(), run.port());
+    if (arguments.output.empty()) {
+        out_ << json << std::flush;
+        return out_ ? Close(run)
+                    : Complain(Failed, "standard output: cannot be written; check where it goes");
+    }
+    const bool written = Procedure(run.program(), "tables", [&] {
+        OutputFile file(arguments.output);
+        file.Write(json);
+        file.Flush();
+    });
+    return written ? Close(run) : Complain(Failed, run.Write_Complaint(arguments.output));
+}
+
+int Commands::Info(const Arguments& arguments) {
+    BatchRun run(Answer::Ignore);
+    if (!Take_Model(run, arguments)) return Close(run);
+    run.Calculate();
+    out_ << Summary(run.program());
+    return Close(run);
+}
+
+int Commands::Convert(const Arguments& arguments) {
+    BatchRun run(Answer::Ignore);
+    run.Open(arguments.model);
+    return run.Outcome() == Done ? Save(run, arguments.output) : Close(run);
+}
+
+int Commands::Save_Example(const Arguments& arguments) {
+    BatchRun run(Answer::Ignore);
+    run.Load(arguments.example);
+    run.program().model.ModelName = StripFilename(arguments.output);
+    return Save(run, arguments.output);
+}
+
+int Commands::Save(BatchRun& run, const std::string& path) {
+    if (!Save_Model_As(run.program(), path)) return Complain(Failed, run.Write_Complaint(path));
+    out_ << run.port().messages.back().box.text << '\n';
+    return Done;
+}
+
+/// Options that the command line already knows by name, for what this release does not compute.
+struct LaterOption {
+    const char* name;
+    const char* value;
+};
+constexpr auto kLaterOptions = std::to_array<LaterOption>({
+    {"--dynamics", nullptr},
+    {"--flywheel", nullptr},
+    {"--fluct", "X"},
+    {"--fft", "FUNCTION"},
+    {"--component", "X|Y|Mag|Ang"},
+});
+
+void Add_Later_Options(CLI::App& command) {
+    for (const LaterOption& later : kLaterOptions) {
+        const std::string help = "not available yet";
+        if (later.value == nullptr)
+            command.add_flag(later.name, help);
+        else
+            command.add_option(later.name, help)->type_name(later.value)->expected(1);
+    }
+}
+
+std::vector<std::string> Example_Names() {
+    std::vector<std::string> names;
+    for (const Example& example : Examples()) names.emplace_back(example.name);
+    return names;
+}
+
+void Add_Source(CLI::App& command, Arguments& arguments) {
+    auto* model = command.add_option("MODEL", arguments.model, "model file (.kvl or .ikv)");
+    command.add_option("--example", arguments.example, "a built-in linkage in place of MODEL")
+        ->check(CLI::IsMember(Example_Names()))
+        ->excludes(model);
+    command.callback([&arguments] {
+        if (arguments.model.empty() && arguments.example.empty())
+            throw CLI::RequiredError("MODEL or --example");
+    });
+}
+
+void Add_Commands(CLI::App& app, Arguments& arguments) {
+    static const std::map<std::string, Answer> kAnswers = {
+        {"abort", Answer::Abort}, {"retry", Answer::Retry}, {"ignore", Answer::Ignore}};
+
+    auto* tables = app.add_subcommand("tables", "Calculate a model and write all tables as JSON");
+    Add_Source(*tables, arguments);
+    tables->add_option("--on-failure", arguments.on_failure, "answer where a position does not assemble")
+        ->type_name("abort|retry|ignore")
+        ->transform(CLI::Transformer(kAnswers).description(""))
+        ->default_str("ignore");
+    tables->add_option("-o", arguments.output, "write there instead of to standard output")
+        ->type_name("FILE");
+    Add_Later_Options(*tables);
+
+    auto* info = app.add_subcommand("info", "Calculate a model and tell what it is and how it moves");
+    Add_Source(*info, arguments);
+
+    auto* convert =
+        app.add_subcommand("convert", "Read a model or legacy file and write it in the current format");
+    convert->add_option("OLD", arguments.model, "file to read (.kvl or .ikv)")->required();
+    convert->add_option("NEW", arguments.output, "file to write (.kvl)")->required();
+
+    auto* example = app.add_subcommand("example", "Write a built-in linkage as a model file");
+    example->add_option("NAME", arguments.example, "built-in linkage")
+        ->required()
+        ->check(CLI::IsMember(Example_Names()));
+    example->add_option("-o", arguments.output, "file to write (.kvl)")->type_name("FILE")->required();
+}
+
+int Run_Command(Commands& commands, const CLI::App& app, const Arguments& arguments) {
+    const std::string name = app.get_subcommands().front()->get_name();
+    if (name == "info") return commands.Info(arguments);
+    if (name == "convert") return commands.Convert(arguments);
+    if (name == "example") return commands.Save_Example(arguments);
+    for (const LaterOption& later : kLaterOptions)
+        if (app.get_subcommand("tables")->count(later.name) > 0)
+            return commands.Complain(
+                WrongUse,
+                std::string(later.name) + " is not available yet; leave it out for the kinematic tables");
+    return commands.Tables(arguments);
+}
+
+}  // namespace
+
+int Run_Commands(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
+    LinkageModel identity;
+    Set_Program_Values(identity);
+    CLI::App app("Kinematics of planar six-bar linkages, without a display.", "kervol-batch");
+    app.set_version_flag("--version", identity.ProgramTitle + " " + identity.VersionText + ", Rev. " +
+                                          identity.ReleaseText + " (" + identity.ProgramDate + ")");
+    app.require_subcommand(1);
+    app.footer(
+        "Exit codes: 0 done; 1 wrong use; 2 a file could not be read whole or written, or a numeric fault;\n"
+        "3 done, but some step did not assemble; 4 refused or given up.");
+    Arguments arguments;
+    Add_Commands(app, arguments);
+
+    Commands commands(out, err);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() == 0) return app.exit(error, out, err);
+        return commands.Complain(WrongUse, std::string(error.what()) + "; see kervol-batch --help");
+    }
+    return Run_Command(commands, app, arguments);
+}
+
+}  // namespace kervol

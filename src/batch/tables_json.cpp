@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch/tables_json.h"
+
+#include <algorithm>
+#include <array>
+#include <variant>
+
+#include "batch/json_writer.h"
+#include "core/model_fields.h"
+
+namespace kervol {
+namespace {
+
+constexpr std::array<std::string_view, 4> kIconNames = {"none", "exclamation", "information", "question"};
+constexpr std::array<std::string_view, 4> kButtonNames = {"OK", "OKCancel", "YesNo", "AbortRetryIgnore"};
+
+void Put_Model(JsonWriter& json, const LinkageModel& model) {
+    json.Key("model");
+    json.Begin_Object();
+    for (const ModelField& field : Model_Fields()) {
+        json.Key(field.name);
+        std::visit([&](auto member) { json.Value(model.*member); }, field.member);
+    }
+    json.End_Object();
+}
+
+void Put_Messages(JsonWriter& json, const RecordingPort& port) {
+    json.Key("messages");
+    json.Begin_List();
+    for (const auto& [box, answer] : port.messages) {
+        json.Begin_Object();
+        json.Member("text", box.text);
+        json.Member("icon", kIconNames.at(static_cast<std::size_t>(box.icon)));
+        json.Member("buttons", kButtonNames.at(static_cast<std::size_t>(box.buttons)));
+        json.Member("answer", static_cast<int>(answer));
+        json.End_Object();
+    }
+    json.End_List();
+}
+
+/// Rows 0 to `last` of a table of steps.
+template <class StepTable>
+void Put_Rows(JsonWriter& json, std::string_view name, const StepTable& table, int last) {
+    json.Key(name);
+    json.Begin_List();
+    for (int step = 0; step <= last; ++step) json.Value(table(step));
+    json.End_List();
+}
+
+}  // namespace
+
+std::string Tables_Json(const Program& program, const RecordingPort& port) {
+    const LinkageModel& model = program.model;
+    const ResultTables& tables = program.tables;
+    const int last = std::min<int>(model.NumSteps, MaxSteps);
+
+    JsonWriter json;
+    json.Begin_Object();
+    json.Member("ProgramTitle", model.ProgramTitle);
+    json.Member("VersionText", model.VersionText);
+    Put_Model(json, model);
+    Put_Messages(json, port);
+    json.Member("NumSteps", model.NumSteps);
+    json.Member("DataCalculated", model.DataCalculated);
+    json.Member("SomeStepFailed", model.SomeStepFailed);
+    json.Member("Stage1Class", model.Stage1Class);
+    json.Member("Stage2Class", model.Stage2Class);
+    Put_Rows(json, "StepValid", tables.StepValid, last);
+    Put_Rows(json, "Theta", tables.Theta, last);
+    Put_Rows(json, "Omega", tables.Omega, last);
+    Put_Rows(json, "Alpha", tables.Alpha, last);
+    Put_Rows(json, "PointPos", tables.PointPos, last);
+    Put_Rows(json, "PointVel", tables.PointVel, last);
+    Put_Rows(json, "PointAcc", tables.PointAcc, last);
+    Put_Rows(json, "VelRatio", tables.VelRatio, last);
+    Put_Rows(json, "MechAdv", tables.MechAdv, last);
+    json.End_Object();
+    return json.Text() + "\n";
+}
+
+}  // namespace kervol

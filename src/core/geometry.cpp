@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/geometry.h"
+
+#include "core/arithmetic.h"
+#include "core/mathematics.h"
+#include "core/number_text.h"
+
+namespace kervol {
+
+void Set_Angle(float degrees, float& radians, std::string& text) {
+    radians = Single(degrees * RadiansPerDegree);
+    text = Plain_Number(degrees);
+}
+
+void Derive_Geometry(LinkageModel& model) {
+    model.O4O6X = Single(double(model.O6LocalX) - model.O4LocalX);
+    model.O4O6Y = Single(double(model.O6LocalY) - model.O4LocalY);
+    Cart_to_Polar(model.O4O6X, model.O4O6Y, model.O4O6Length, model.O4O6AngleDeg);
+    model.O4O6Angle = Single(model.O4O6AngleDeg * RadiansPerDegree);
+    Cart_to_Polar(model.O6LocalX, model.O6LocalY, model.O2O6Length, model.O2O6AngleDeg);
+    model.O2O6Angle = Single(model.O2O6AngleDeg * RadiansPerDegree);
+
+    const float lengths[] = {model.CouplerAC, model.Link1, model.Link2,   model.Link3,     model.Link4,
+                             model.Link5,     model.Link6, model.LinkO4D, model.O2O6Length};
+    int i = 0;
+    for (const float length : lengths) model.LinkTable(i++) = length;
+}
+
+}  // namespace kervol

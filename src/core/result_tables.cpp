@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/result_tables.h"
+
+#include "core/program.h"
+#include "core/report.h"
+
+namespace kervol {
+
+void Clear_Tables(Program& program) {
+    Procedure(program, "Clear_Tables", [&] {
+        ResultTables& tables = program.tables;
+        program.model.TorqueImported = false;
+        for (int step = 0; step <= program.model.NumSteps; ++step) {
+            tables.Theta(step).Fill(0);
+            tables.Omega(step).Fill(0);
+            tables.Alpha(step).Fill(0);
+            tables.PointPos(step).Fill(0);
+            tables.PointVel(step).Fill(0);
+            tables.PointAcc(step).Fill(0);
+            tables.VelRatio(step).Fill(0);
+            tables.MechAdv(step).Fill(0);
+            tables.Torque21Imported(step) = 0;
+        }
+    });
+}
+
+}  // namespace kervol

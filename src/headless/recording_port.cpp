@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "headless/recording_port.h"
+
+#include <array>
+#include <ctime>
+#include <filesystem>
+
+namespace kervol {
+namespace {
+
+std::string Formatted(const std::tm& time, const char* format) {
+    std::array<char, 64> buffer;
+    return {buffer.data(), std::strftime(buffer.data(), buffer.size(), format, &time)};
+}
+
+}  // namespace
+
+Answer RecordingPort::Show_Message(const MessageBox& box) {
+    Answer given = answer ? answer(box) : Answer::None;
+    if (given == Answer::None) given = box.preset;
+    messages.push_back({box, given});
+    return given;
+}
+
+void RecordingPort::Show_Screen(ScreenId screen, Modality) {
+    screens.push_back(screen);
+}
+
+std::string RecordingPort::Long_Path(const std::string& path) {
+    std::error_code error;
+    const auto long_path = std::filesystem::canonical(path, error);
+    return error ? std::string() : long_path.string();
+}
+
+DateAndTime RecordingPort::Short_Date_And_Time() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return {Formatted(local, "%Y-%m-%d"), Formatted(local, "%H:%M")};
+}
+
+}  // namespace kervol

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The closed form of a four-bar loop, shared by both stages. Angles are radians from the loop's ground link,
+// which runs from the input pivot to the output pivot. Which special positions count as failures is the
+// caller's.
+#pragma once
+
+namespace kervol {
+
+struct Vec {
+    double x = 0.0, y = 0.0;
+};
+
+inline Vec operator+(Vec left, Vec right) {
+    return {left.x + right.x, left.y + right.y};
+}
+
+/// A link as a vector: its length, its angle from +x, and that angle's sine and cosine.
+struct Arm {
+    Arm(double the_length, double the_angle);
+
+    Vec Position() const { return {length * cos, length * sin}; }
+    Vec Velocity(double omega) const { return {-length * omega * sin, length * omega * cos}; }
+    Vec Acceleration(double omega, double alpha) const {
+        const double normal = omega * omega;
+        return {-length * alpha * sin - length * normal * cos, -length * normal * sin + length * alpha * cos};
+    }
+
+    double length, angle, sin, cos;
+};
+
+/// Position, velocity and acceleration of a point.
+struct PointMotion {
+    Vec position, velocity, acceleration;
+};
+
+inline PointMotion Fixed_Pivot(double x, double y) {
+    return {{x, y}, {}, {}};
+}
+
+/// Motion of the arm's end, which turns about a moving base.
+inline PointMotion Point_On_Arm(const Arm& arm, double omega, double alpha, const PointMotion& base) {
+    return {arm.Position() + base.position, arm.Velocity(omega) + base.velocity,
+            arm.Acceleration(omega, alpha) + base.acceleration};
+}
+
+/// Ratios of the link lengths: input a, coupler b, output c, ground d. Faults where a, b or c is 0.
+struct LoopConstants {
+    LoopConstants(double a, double b, double c, double d);
+
+    double K1, K2, K3, K4, K5;
+};
+
+/// P t^2 + Q t + R = 0 for t, the tangent of half a link's angle.
+struct HalfTangentEquation {
+    HalfTangentEquation(double p, double q, double r);
+
+    /// The link's angle, -pi to pi. `sign` -1 is the open assembly, +1 the crossed one. Faults where P is 0
+    /// or the discriminant negative.
+    double Angle(int sign) const;
+
+    double P, Q, R;
+    double discriminant;  ///< negative where the loop cannot be closed
+};
+
+/// The equations of the output and of the coupler at an input angle with this sine and cosine.
+HalfTangentEquation Output_Equation(const LoopConstants& K, double sin_input, double cos_input);
+HalfTangentEquation Coupler_Equation(const LoopConstants& K, double sin_input, double cos_input);
+
+/// Sines of the angle between coupler and output, both ways round: 0 at a toggle position.
+struct ToggleSines {
+    ToggleSines(const Arm& coupler, const Arm& output);
+
+    double coupler_output, output_coupler;
+};
+
+/// A quantity of the coupler and of the output.
+struct CouplerOutput {
+    double coupler, output;
+};
+
+/// Angular velocities for the input's. Faults at a toggle position.
+CouplerOutput Loop_Speeds(const Arm& input, const Arm& coupler, const Arm& output, const ToggleSines& toggle,
+                          double omega_input);
+
+/// The two linear equations of the angular accelerations.
+struct LoopAccelerations {
+    LoopAccelerations(const Arm& input, const Arm& coupler, const Arm& output, double omega_input,
+                      double alpha_input, const CouplerOutput& omega);
+
+    /// Faults where the determinant is 0.
+    CouplerOutput Solve() const;
+
+    double Pa, Pb, Pc, Pd, Pe, Pf;
+    double determinant;
+};
+
+}  // namespace kervol
