@@ -4,19 +4,22 @@
 #include <array>
 #include <cstdio>
 
+#include "core/text_encoding.h"
+
 namespace kervol {
 namespace {
 
 std::string Quoted(std::string_view text) {
     std::string quoted = "\"";
-    for (const char c : text) {
+    // A path from the command line may hold any bytes.
+    for (const char c : Decoded(text)) {
         const auto byte = static_cast<unsigned char>(c);
         if (c == '"' || c == '\\') {
             quoted += '\\';
             quoted += c;
         } else if (byte < 0x20) {
             std::array<char, 8> escape;
-            std::snprintf(escape.data(), escape.size(), "\\u%04x", unsigned{byte});
+            static_cast<void>(std::snprintf(escape.data(), escape.size(), "\\u%04x", unsigned{byte}));
             quoted += escape.data();
         } else {
             quoted += c;

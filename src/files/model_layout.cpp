@@ -14,6 +14,8 @@ template <class... Lambdas>
 struct Overloaded : Lambdas... {
     using Lambdas::operator()...;
 };
+template <class... Lambdas>
+Overloaded(Lambdas...) -> Overloaded<Lambdas...>;
 
 constexpr LinkValue Mass(int link) {
     return {&Model::LinkMass, link};

@@ -30,7 +30,7 @@ void Check_Writable(const fs::path& path, const fs::file_status& status) {
 FileHandle Opened(const fs::path& path) {
     FileHandle file(std::fopen(path.c_str(), "wb"), &std::fclose);
     // This class holds text back itself; another buffer would hide which write failed.
-    if (file) std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    if (file) static_cast<void>(std::setvbuf(file.get(), nullptr, _IONBF, 0));
     return file;
 }
 
@@ -74,7 +74,7 @@ FileHandle Opened_Keeping_Content(const std::string& name) {
 OutputFile::OutputFile(const std::string& path) : file_(Opened_Keeping_Content(path)) {}
 
 OutputFile::~OutputFile() {
-    std::fwrite(held_back_.data(), 1, held_back_.size(), file_.get());
+    static_cast<void>(std::fwrite(held_back_.data(), 1, held_back_.size(), file_.get()));
 }
 
 void OutputFile::Write(std::string_view text) {

@@ -47,7 +47,4 @@ class ValueReader {
     std::size_t at_ = 0;
 };
 
-/// UTF-8 of a text whose bytes that are not valid UTF-8 are Windows-1252.
-std::string Decoded(std::string_view bytes);
-
 }  // namespace kervol
