@@ -49,7 +49,7 @@ bool BatchRun::Open(const std::string& path) {
     source_ = path;
     Clear_Tables(*program_);
     read_ = Open_Model(*program_, path);
-    return read_.end != ReadEnd::Nothing;
+    return read_.end == ReadEnd::Cut || read_.end == ReadEnd::Whole;
 }
 
 bool BatchRun::Load(const std::string& name) {
@@ -84,8 +84,9 @@ std::string BatchRun::Write_Complaint(const std::string& path) const {
 
 std::string BatchRun::Reading_Complaint() const {
     if (read_.end == ReadEnd::Whole) return {};
-    if (read_.line > 2) return "no model stands behind the first two lines; save the model again";
-    return "not a model of this program; its first line must be \"KERVOL for Windows\" or \"KERVOL\"";
+    if (read_.end == ReadEnd::Refused)
+        return "not a model of this program; its first line must be \"KERVOL for Windows\" or \"KERVOL\"";
+    return "no model stands behind the first two lines; save the model again";
 }
 
 std::string BatchRun::Fault_Complaint() const {
@@ -104,9 +105,13 @@ std::string BatchRun::Calculation_Complaint() const {
     if (end_ == CalculationEnd::Refused) return "refused: " + port_.messages.back().box.text;
     if (end_ == CalculationEnd::Abandoned)
         return "given up at the first position that does not assemble; --on-failure ignore goes on";
+    if (end_ == CalculationEnd::NoMode)
+        return "refused: drive mode " + std::to_string(model.CalcMode) +
+               " is none of 1 to 5; mend line 39 of the file";
     int failed = 0;
     for (int step = 0; step <= std::min<int>(model.NumSteps, MaxSteps); ++step)
         if (!program_->tables.StepValid(step)) ++failed;
+    if (failed == 0) return "a position beyond the end of the range did not assemble; all steps did";
     return std::to_string(failed) + " of " + std::to_string(model.NumSteps + 1) +
            " steps do not assemble and are zero; \"kervol-batch info\" lists them";
 }

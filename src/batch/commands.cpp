@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/commands.h"
 
+#include <algorithm>
 #include <array>
+#include <exception>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -11,6 +14,7 @@
 #include "batch/tables_json.h"
 #include "core/path_text.h"
 #include "core/report.h"
+#include "core/text_encoding.h"
 #include "files/model_file.h"
 #include "files/output_file.h"
 #include "kinematics/examples.h"
@@ -21,12 +25,15 @@
 namespace kervol {
 namespace {
 
+const std::map<std::string, Answer> kOnFailure = {
+    {"abort", Answer::Abort}, {"retry", Answer::Retry}, {"ignore", Answer::Ignore}};
+
 /// What the command line gave; each command uses its own part.
 struct Arguments {
     std::string model;
     std::string example;
     std::string output;
-    Answer on_failure = Answer::Ignore;
+    std::string on_failure = "ignore";
 };
 
 class Commands {
@@ -37,7 +44,10 @@ class Commands {
     int Info(const Arguments& arguments);
     int Convert(const Arguments& arguments);
     int Save_Example(const Arguments& arguments);
-    int Complain(ExitCode code, const std::string& text);
+    /// Writes a complaint as one line and returns the code.
+    int Complain(ExitCode code, std::string text);
+    /// False, after a complaint, where standard output does not take it.
+    bool Print(const std::string& text);
 
   private:
     static bool Take_Model(BatchRun& run, const Arguments& arguments);
@@ -48,9 +58,17 @@ class Commands {
     std::ostream& err_;
 };
 
-int Commands::Complain(ExitCode code, const std::string& text) {
+int Commands::Complain(ExitCode code, std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
     if (!text.empty()) err_ << "kervol-batch: " << text << '\n';
     return code;
+}
+
+bool Commands::Print(const std::string& text) {
+    out_ << text << std::flush;
+    if (!out_) Complain(Failed, "standard output: cannot be written; check where it goes");
+    return static_cast<bool>(out_);
 }
 
 int Commands::Close(const BatchRun& run) {
@@ -62,19 +80,15 @@ bool Commands::Take_Model(BatchRun& run, const Arguments& arguments) {
 }
 
 int Commands::Tables(const Arguments& arguments) {
-    BatchRun run(arguments.on_failure);
+    BatchRun run(kOnFailure.at(arguments.on_failure));
     if (!Take_Model(run, arguments)) return Close(run);
     run.Calculate();
     const std::string json = Tables_Json(run.program(), run.port());
-    if (arguments.output.empty()) {
-        out_ << json << std::flush;
-        return out_ ? Close(run)
-                    : Complain(Failed, "standard output: cannot be written; check where it goes");
-    }
+    if (arguments.output.empty()) return Print(json) ? Close(run) : Failed;
     const bool written = Procedure(run.program(), "tables", [&] {
         OutputFile file(arguments.output);
         file.Write(json);
-        file.Flush();
+        file.Close();
     });
     return written ? Close(run) : Complain(Failed, run.Write_Complaint(arguments.output));
 }
@@ -83,8 +97,7 @@ int Commands::Info(const Arguments& arguments) {
     BatchRun run(Answer::Ignore);
     if (!Take_Model(run, arguments)) return Close(run);
     run.Calculate();
-    out_ << Summary(run.program());
-    return Close(run);
+    return Print(Summary(run.program())) ? Close(run) : Failed;
 }
 
 int Commands::Convert(const Arguments& arguments) {
@@ -96,14 +109,13 @@ int Commands::Convert(const Arguments& arguments) {
 int Commands::Save_Example(const Arguments& arguments) {
     BatchRun run(Answer::Ignore);
     run.Load(arguments.example);
-    run.program().model.ModelName = StripFilename(arguments.output);
+    run.program().model.ModelName = StripFilename(Decoded(arguments.output));
     return Save(run, arguments.output);
 }
 
 int Commands::Save(BatchRun& run, const std::string& path) {
     if (!Save_Model_As(run.program(), path)) return Complain(Failed, run.Write_Complaint(path));
-    out_ << run.port().messages.back().box.text << '\n';
-    return Done;
+    return Print(run.port().messages.back().box.text + "\n") ? Done : Failed;
 }
 
 /// Options that the command line already knows by name, for what this release does not compute.
@@ -136,28 +148,30 @@ std::vector<std::string> Example_Names() {
 }
 
 void Add_Source(CLI::App& command, Arguments& arguments) {
-    auto* model = command.add_option("MODEL", arguments.model, "model file (.kvl or .ikv)");
+    command.add_option("MODEL", arguments.model, "model file (.kvl or .ikv)")->type_name("");
     command.add_option("--example", arguments.example, "a built-in linkage in place of MODEL")
         ->check(CLI::IsMember(Example_Names()))
-        ->excludes(model);
+        ->type_name("NAME");
     command.callback([&arguments] {
-        if (arguments.model.empty() && arguments.example.empty())
-            throw CLI::RequiredError("MODEL or --example");
+        if (arguments.model.empty() == arguments.example.empty())
+            throw CLI::ValidationError("name one MODEL or one --example");
     });
 }
 
-void Add_Commands(CLI::App& app, Arguments& arguments) {
-    static const std::map<std::string, Answer> kAnswers = {
-        {"abort", Answer::Abort}, {"retry", Answer::Retry}, {"ignore", Answer::Ignore}};
+CLI::Option* Add_Output(CLI::App& command, Arguments& arguments, const char* help) {
+    return command.add_option("-o", arguments.output, help)
+        ->type_name("FILE")
+        ->check([](const std::string& name) { return name.empty() ? "needs the name of a file" : ""; });
+}
 
+void Add_Commands(CLI::App& app, Arguments& arguments) {
     auto* tables = app.add_subcommand("tables", "Calculate a model and write all tables as JSON");
     Add_Source(*tables, arguments);
     tables->add_option("--on-failure", arguments.on_failure, "answer where a position does not assemble")
-        ->type_name("abort|retry|ignore")
-        ->transform(CLI::Transformer(kAnswers).description(""))
-        ->default_str("ignore");
-    tables->add_option("-o", arguments.output, "write there instead of to standard output")
-        ->type_name("FILE");
+        ->check(CLI::IsMember({"abort", "retry", "ignore"}))
+        ->type_name("ANSWER")
+        ->capture_default_str();
+    Add_Output(*tables, arguments, "write there instead of to standard output");
     Add_Later_Options(*tables);
 
     auto* info = app.add_subcommand("info", "Calculate a model and tell what it is and how it moves");
@@ -165,14 +179,15 @@ void Add_Commands(CLI::App& app, Arguments& arguments) {
 
     auto* convert =
         app.add_subcommand("convert", "Read a model or legacy file and write it in the current format");
-    convert->add_option("OLD", arguments.model, "file to read (.kvl or .ikv)")->required();
-    convert->add_option("NEW", arguments.output, "file to write (.kvl)")->required();
+    convert->add_option("OLD", arguments.model, "file to read (.kvl or .ikv)")->required()->type_name("");
+    convert->add_option("NEW", arguments.output, "file to write (.kvl)")->required()->type_name("");
 
     auto* example = app.add_subcommand("example", "Write a built-in linkage as a model file");
     example->add_option("NAME", arguments.example, "built-in linkage")
         ->required()
-        ->check(CLI::IsMember(Example_Names()));
-    example->add_option("-o", arguments.output, "file to write (.kvl)")->type_name("FILE")->required();
+        ->check(CLI::IsMember(Example_Names()))
+        ->type_name("");
+    Add_Output(*example, arguments, "file to write (.kvl)")->required();
 }
 
 int Run_Command(Commands& commands, const CLI::App& app, const Arguments& arguments) {
@@ -206,11 +221,17 @@ int Run_Commands(int argc, const char* const* argv, std::ostream& out, std::ostr
     Commands commands(out, err);
     try {
         app.parse(argc, argv);
+        return Run_Command(commands, app, arguments);
     } catch (const CLI::ParseError& error) {
-        if (error.get_exit_code() == 0) return app.exit(error, out, err);
-        return commands.Complain(WrongUse, std::string(error.what()) + "; see kervol-batch --help");
+        if (error.get_exit_code() != 0)
+            return commands.Complain(WrongUse, std::string(error.what()) + "; see kervol-batch --help");
+        std::ostringstream help;
+        app.exit(error, help, help);
+        return commands.Print(help.str()) ? Done : Failed;
+    } catch (const std::exception& error) {
+        return commands.Complain(Failed,
+                                 std::string(error.what()) + ": the model is too large for this machine");
     }
-    return Run_Command(commands, app, arguments);
 }
 
 }  // namespace kervol

@@ -4,15 +4,12 @@
 #include <array>
 #include <cstdio>
 
-#include "core/text_encoding.h"
-
 namespace kervol {
 namespace {
 
 std::string Quoted(std::string_view text) {
     std::string quoted = "\"";
-    // A path from the command line may hold any bytes.
-    for (const char c : Decoded(text)) {
+    for (const char c : text) {
         const auto byte = static_cast<unsigned char>(c);
         if (c == '"' || c == '\\') {
             quoted += '\\';

@@ -24,6 +24,7 @@ class JsonWriter {
     void End_List() { Close(']'); }
     void Key(std::string_view name);
 
+    /// `text` is UTF-8.
     void Value(std::string_view text);
     void Value(const char* text) { Value(std::string_view(text)); }
     void Value(bool flag) { Put(flag ? "true" : "false"); }

@@ -93,10 +93,18 @@ std::string Failed_Steps(const ResultTables& tables, int last) {
     return text.empty() ? "none" : text;
 }
 
+/// The class in words, as the classification put it or, where none ran, as the file has it.
+std::string Class_Text(const std::string& text, const std::string& stage_class) {
+    const std::size_t words = std::string_view("Stage  1  ").size();
+    if (text.size() > words) return text.substr(words);
+    if (stage_class == "Y") return "is Grashof";
+    if (stage_class == "N") return "is Non - Grashof";
+    return stage_class == "SC" ? "is Special Case Grashof" : "not classified";
+}
+
 void Put_Classes(Out& out, const LinkageModel& model) {
-    for (const std::string& text : model.StageText)
-        if (!text.empty())
-            Put_Line(out, text.substr(0, 8), text.substr(std::min<std::size_t>(10, text.size())));
+    Put_Line(out, "Stage 1", Class_Text(model.StageText(0), model.Stage1Class));
+    if (model.LinkageType == "W") Put_Line(out, "Stage 2", Class_Text(model.StageText(1), model.Stage2Class));
 }
 
 struct MotionColumn {
@@ -146,7 +154,7 @@ std::string Summary(const Program& program) {
     Put_Geometry(out, model);
     Put_Classes(out, model);
     Put_Line(out, "Drive", Drive_Text(model));
-    Put_Line(out, "Steps", std::to_string(last + 1));
+    Put_Line(out, "Steps", std::to_string(std::max(last + 1, 0)));
     Put_Line(out, "Steps not assembled", Failed_Steps(program.tables, last));
     Put_Motion(out, program.tables, last);
     return out.str();

@@ -8,7 +8,7 @@
 
 namespace kervol {
 
-/// Numbers of the faults that this program raises itself.
+/// Numbers of the faults that the program raises or has something to say about.
 namespace fault {
 inline constexpr std::int32_t InvalidCall = 5;
 inline constexpr std::int32_t Overflow = 6;
@@ -16,14 +16,18 @@ inline constexpr std::int32_t OutOfMemory = 7;
 inline constexpr std::int32_t Subscript = 9;
 inline constexpr std::int32_t DivisionByZero = 11;
 inline constexpr std::int32_t TypeMismatch = 13;
+inline constexpr std::int32_t OutOfStack = 28;
 inline constexpr std::int32_t BadFileNameOrNumber = 52;
 inline constexpr std::int32_t FileNotFound = 53;
 inline constexpr std::int32_t DeviceIO = 57;
 inline constexpr std::int32_t DiskFull = 61;
 inline constexpr std::int32_t InputPastEnd = 62;
+inline constexpr std::int32_t BadFileName = 64;
 inline constexpr std::int32_t PermissionDenied = 70;
+inline constexpr std::int32_t DiskNotReady = 71;
 inline constexpr std::int32_t PathFileAccess = 75;
 inline constexpr std::int32_t PathNotFound = 76;
+inline constexpr std::int32_t ControlOutOfMemory = 32678;
 }  // namespace fault
 
 struct Fault {

@@ -4,12 +4,25 @@
 #include "core/arithmetic.h"
 #include "core/mathematics.h"
 #include "core/number_text.h"
+#include "core/report.h"
 
 namespace kervol {
 
 void Set_Angle(float degrees, float& radians, std::string& text) {
     radians = Single(degrees * RadiansPerDegree);
     text = Plain_Number(degrees);
+}
+
+void Set_Offset_Angles(LinkageModel& model) {
+    Set_Angle(model.Delta3Deg, model.Delta3, model.Delta3Text);
+    Set_Angle(model.Delta4Deg, model.Delta4, model.Delta4Text);
+    Set_Angle(model.Delta5Deg, model.Delta5, model.Delta5Text);
+}
+
+void Set_Range_Angles(LinkageModel& model) {
+    Set_Angle(model.ThetaMinDeg, model.ThetaMin, model.ThetaMinText);
+    Set_Angle(model.ThetaMaxDeg, model.ThetaMax, model.ThetaMaxText);
+    Set_Angle(model.ThetaStepDeg, model.ThetaStep, model.ThetaStepText);
 }
 
 void Derive_Geometry(LinkageModel& model) {
@@ -24,6 +37,10 @@ void Derive_Geometry(LinkageModel& model) {
                              model.Link5,     model.Link6, model.LinkO4D, model.O2O6Length};
     int i = 0;
     for (const float length : lengths) model.LinkTable(i++) = length;
+}
+
+void Derive_Geometry(Program& program) {
+    Procedure(program, "Derive_Geometry", [&] { Derive_Geometry(program.model); });
 }
 
 }  // namespace kervol

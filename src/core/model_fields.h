@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The list of the model's fields, for all that goes over every one of them: reports, comparisons, files.
+// The list of the model's fields, for what goes over every one of them: the JSON of a run, comparisons in
+// tests.
 #pragma once
 
 #include <cstdint>

@@ -42,10 +42,26 @@ bool Is_Half_Way(double value, int decimals) {
     return Is_Same(std::fmod(value, unit), unit / 2);
 }
 
-/// `std::to_chars` rounds an exact half to the even neighbour; the next value up turns it away from zero.
-double Away_From_Half(double value, int decimals) {
-    return Is_Half_Way(value, decimals) ? std::nextafter(value, std::numeric_limits<double>::infinity())
-                                        : value;
+/// Counts the last digit of a decimal up by one.
+std::string Counted_Up(std::string digits) {
+    for (std::size_t i = digits.size(); i-- > 0;) {
+        if (digits[i] == '.') continue;
+        if (digits[i] != '9') {
+            ++digits[i];
+            return digits;
+        }
+        digits[i] = '0';
+    }
+    return "1" + digits;
+}
+
+/// Fixed form with a half rounded up, where `std::to_chars` rounds it to the even neighbour.
+std::string Rounded_Digits(double size, int decimals) {
+    if (!Is_Half_Way(size, decimals)) return Digits(size, std::chars_format::fixed, decimals);
+    std::string exact = Digits(size, std::chars_format::fixed, decimals + 1);
+    exact.pop_back();
+    if (decimals == 0) exact.pop_back();
+    return Counted_Up(exact);
 }
 
 std::string Grouped(const std::string& digits) {
@@ -59,7 +75,7 @@ std::string Grouped(const std::string& digits) {
 }
 
 std::string Fixed_Form(double size, int decimals) {
-    std::string text = Grouped(Digits(Away_From_Half(size, decimals), std::chars_format::fixed, decimals));
+    std::string text = Grouped(Rounded_Digits(size, decimals));
     if (decimals == 0) text += '.';
     if (decimals == 6) text.insert(text.size() - 3, " ");
     return text;
@@ -68,7 +84,10 @@ std::string Fixed_Form(double size, int decimals) {
 /// Two decimals and an exponent with its sign and no leading zero.
 std::string Exponent_Form(double size) {
     const int exponent = Is_Zero(size) ? 0 : static_cast<int>(std::floor(std::log10(size)));
-    const std::string text = Digits(Away_From_Half(size, 2 - exponent), std::chars_format::scientific, 2);
+    // `std::to_chars` rounds a half to the even neighbour; two decimals do not show the step to the next
+    // value up.
+    if (Is_Half_Way(size, 2 - exponent)) size = std::nextafter(size, std::numeric_limits<double>::infinity());
+    const std::string text = Digits(size, std::chars_format::scientific, 2);
     const std::size_t e = text.find('e');
     const std::size_t digit = std::min(text.find_first_not_of('0', e + 2), text.size() - 1);
     return text.substr(0, e) + "E" + text[e + 1] + text.substr(digit);

@@ -15,26 +15,28 @@ struct Advice {
 };
 
 constexpr auto kAdvice = std::to_array<Advice>({
-    {7,
+    {fault::OutOfMemory,
      "You should try to save your model from the Home Screen's 'File' pulldown menu, \r"
      "then Quit this program and restart it to clear the memory.\r"
      "It may help to close other programs that are running at the same time.\r"
      "Good luck! ",
      Icon::None},
-    {28,
+    {fault::OutOfStack,
      "You should try to save your model from the Home Screen's 'File' pulldown menu, \r"
      "then Quit this program and restart it to clear the stacks.\r"
      "It may help to close other programs that are running at the same time.\r"
      "Good luck! ",
      Icon::Information},
-    {52, "The filename clicked on has a problem.  Try opening it from within the program.",
+    {fault::BadFileNameOrNumber,
+     "The filename clicked on has a problem.  Try opening it from within the program.", Icon::Information},
+    {fault::FileNotFound, "There are no files with your chosen name in the selected directory",
      Icon::Information},
-    {53, "There are no files with your chosen name in the selected directory", Icon::Information},
-    {57, "Device I/O error- bad drive or disk - please try another", Icon::Information},
-    {61, " The floppy disk in the drive is full - please substitute another", Icon::Information},
-    {64, "There are no files with your chosen name in the selected directory", Icon::Information},
-    {71, "Disk not ready - is the drive empty or its door open?", Icon::Information},
-    {32678, "Out of memory.  Close other programs and retry.", Icon::Information},
+    {fault::DeviceIO, "Device I/O error- bad drive or disk - please try another", Icon::Information},
+    {fault::DiskFull, " The floppy disk in the drive is full - please substitute another", Icon::Information},
+    {fault::BadFileName, "There are no files with your chosen name in the selected directory",
+     Icon::Information},
+    {fault::DiskNotReady, "Disk not ready - is the drive empty or its door open?", Icon::Information},
+    {fault::ControlOutOfMemory, "Out of memory.  Close other programs and retry.", Icon::Information},
 });
 
 /// Whether the running sweep has met this fault before and the port shows such a one once.

@@ -9,7 +9,6 @@ namespace kervol {
 void Clear_Tables(Program& program) {
     Procedure(program, "Clear_Tables", [&] {
         ResultTables& tables = program.tables;
-        program.model.TorqueImported = false;
         for (int step = 0; step <= program.model.NumSteps; ++step) {
             tables.Theta(step).Fill(0);
             tables.Omega(step).Fill(0);
@@ -21,6 +20,7 @@ void Clear_Tables(Program& program) {
             tables.MechAdv(step).Fill(0);
             tables.Torque21Imported(step) = 0;
         }
+        program.model.TorqueImported = false;
     });
 }
 

@@ -32,15 +32,16 @@ void Exchange_Rows(SystemMatrix& A, SystemVector& B, int k, int pivot, int N) {
 }
 
 /// The reduced row is the negative of the usual one, and the product comes before the quotient. A zero
-/// multiplier needs neither: 0 - a is what the full expression gives, and keeps the sign of a zero as that
-/// does.
+/// multiplier makes the quotient a zero, of which the pivot only decides the sign, so that row does without
+/// the divisions.
 void Reduce_Row(SystemMatrix& A, SystemVector& B, int i, int k, int N) {
     auto& row = A(i);
     const auto& pivot = A(k);
     const double multiplier = row(k);
     if (Is_Zero(multiplier)) {
-        for (int j = k + 1; j <= N; ++j) row(j) = 0.0 - row(j);
-        B(i) = 0.0 - B(i);
+        const double zero = pivot(k) < 0 ? -multiplier : multiplier;
+        for (int j = k + 1; j <= N; ++j) row(j) = zero * pivot(j) - row(j);
+        B(i) = zero * B(k) - B(i);
         return;
     }
     for (int j = k + 1; j <= N; ++j) row(j) = multiplier * pivot(j) / pivot(k) - row(j);
@@ -48,6 +49,8 @@ void Reduce_Row(SystemMatrix& A, SystemVector& B, int i, int k, int N) {
 }
 
 void Substitute_Back(const SystemMatrix& A, SystemVector& B, int N) {
+    // An overflow of the elimination shows in a pivot, or else in the solution.
+    for (int i = 1; i <= N; ++i) Finite(A(i, i));
     if (!Is_Zero(A(N, N))) B(N) = B(N) / A(N, N);
     for (int i = N - 1; i >= 1; --i) {
         double sum = B(i);

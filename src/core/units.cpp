@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include "core/arithmetic.h"
+
 namespace kervol {
 namespace {
 
@@ -47,11 +49,14 @@ void Put_Units(std::int16_t system, Table<std::string, 19>& table, std::int16_t 
         length + "/sec^3",  // 17
         torque,             // 18: FlywheelTorque
     };
-    for (int i = 1; i <= count; ++i) table(i) = texts.at(static_cast<std::size_t>(i) - 1);
+    for (int i = 1; i <= count; ++i) {
+        std::string& entry = table(i);
+        entry = texts.at(static_cast<std::size_t>(i) - 1);
+    }
 }
 
 void Put_Units(LinkageModel& model) {
-    Put_Units(model.UnitSystem, model.UnitText, static_cast<std::int16_t>(model.UnitCount + 1));
+    Put_Units(model.UnitSystem, model.UnitText, Int16(model.UnitCount + 1.0));
 }
 
 }  // namespace kervol

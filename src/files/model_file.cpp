@@ -6,6 +6,7 @@
 #include "core/number_text.h"
 #include "core/path_text.h"
 #include "core/report.h"
+#include "core/text_encoding.h"
 #include "core/units.h"
 #include "files/disk.h"
 #include "files/legacy_file.h"
@@ -18,19 +19,23 @@ namespace {
 /// Identity of the legacy format.
 constexpr std::string_view kLegacyIdentity = "KERVOL";
 
-void Set_Angles(LinkageModel& model) {
-    Set_Angle(model.Delta3Deg, model.Delta3, model.Delta3Text);
-    Set_Angle(model.Delta4Deg, model.Delta4, model.Delta4Text);
-    Set_Angle(model.Delta5Deg, model.Delta5, model.Delta5Text);
-    Set_Angle(model.ThetaMinDeg, model.ThetaMin, model.ThetaMinText);
-    Set_Angle(model.ThetaMaxDeg, model.ThetaMax, model.ThetaMaxText);
-    Set_Angle(model.ThetaStepDeg, model.ThetaStep, model.ThetaStepText);
-}
+/// Holds `Loading` set, also where a fault ends the reading.
+class LoadingScope {
+  public:
+    explicit LoadingScope(LinkageModel& model) : model_(model) { model_.Loading = true; }
+    ~LoadingScope() { model_.Loading = false; }
+    LoadingScope(const LoadingScope&) = delete;
+    LoadingScope& operator=(const LoadingScope&) = delete;
 
-void Rebuild(LinkageModel& model) {
+  private:
+    LinkageModel& model_;
+};
+
+void Rebuild(Program& program) {
+    LinkageModel& model = program.model;
     // No file holds O4 in the local frame.
     Rotate(model.O4X, model.O4Y, model.GroundAngleDeg, -1, model.O4LocalX, model.O4LocalY);
-    Derive_Geometry(model);
+    Derive_Geometry(program);
     Set_Open_Signs(model);
     Put_Units(model);
 }
@@ -77,20 +82,23 @@ ReadEnd Readfile(Program& program, ValueReader& file) {
         file.Read(version);
         if (identity == model.ProgramTitle) {
             end = Read_Model_Fields(program, file, version);
-            Set_Angles(model);
+            Set_Offset_Angles(model);
+            Set_Range_Angles(model);
         } else if (identity == kLegacyIdentity) {
             end = Read_Oldfile_6(program, file);
         } else {
             program.port.Show_Message(
                 {"This data file is not compatible with this version of " + model.ProgramTitle + ". "});
+            end = ReadEnd::Refused;
             return;
         }
-        model.Loading = true;
         model.DataFromFile = true;
-        Rebuild(model);
-        model.DataCalculated = false;
-        model.DynamicsCalculated = false;
-        model.Loading = false;
+        {
+            const LoadingScope loading(model);
+            Rebuild(program);
+            model.DataCalculated = false;
+            model.DynamicsCalculated = false;
+        }
         program.port.Set_Pointer(Pointer::Default);
         if (model.StartingUp) return;
         program.port.Show_Message({"File " + model.ModelPath + " successfully read.", Icon::Information});
@@ -116,7 +124,7 @@ bool Writefile(Program& program, OutputFile& file) {
     return Procedure(program, "Writefile", [&] {
         ValueWriter writer(file);
         Write_Values(program, writer);
-        file.Flush();
+        file.Close();
         program.port.Show_Message(
             {"File was successfully written to \n" + program.model.ModelPath, Icon::Information});
     });
@@ -125,7 +133,7 @@ bool Writefile(Program& program, OutputFile& file) {
 ReadReport Open_Model(Program& program, const std::string& path) {
     ReadReport report;
     Procedure(program, "frm_Homescreen.Open", [&] {
-        program.model.ModelPath = path;
+        program.model.ModelPath = Decoded(path);
         ValueReader file(Read_Whole_File(path));
         report.end = Readfile(program, file);
         report.line = file.Line();
@@ -137,11 +145,11 @@ ReadReport Open_Model(Program& program, const std::string& path) {
 bool Save_Model_As(Program& program, const std::string& path) {
     bool written = false;
     Procedure(program, "frm_Homescreen.SaveAs", [&] {
-        program.model.ModelPath = path;
+        program.model.ModelPath = Decoded(path);
         OutputFile file(path);
         written = Writefile(program, file);
         if (written) program.model.DataSaved = true;
-        program.model.ModelName = StripFilename(path);
+        program.model.ModelName = StripFilename(program.model.ModelPath);
     });
     return written;
 }

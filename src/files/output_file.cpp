@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
@@ -40,17 +41,37 @@ FileHandle Opened_Or_Fault(const fs::path& path) {
     return file;
 }
 
-/// A new file with the old one's permissions, after the old one has moved aside.
-FileHandle Opened_In_Place_Of(const fs::path& kept, const fs::path& path, fs::perms permissions) {
-    std::error_code error;
+void Write_And_Close(FileHandle file, std::string_view text) {
+    const bool written = std::fwrite(text.data(), 1, text.size(), file.get()) == text.size();
+    const int reason = errno;
+    const bool closed = std::fclose(file.release()) == 0;
+    if (!written) Raise(Fault_Of_System_Error(reason));
+    if (!closed) Raise(Fault_Of_System_Error(errno));
+}
+
+/// A new file with the old one's group and permissions, after the old one has moved aside.
+FileHandle Opened_In_Place_Of(const fs::path& kept, const fs::path& path, const struct stat& old) {
     FileHandle file = Opened(path);
     if (!file) {
         const int reason = errno;
+        std::error_code error;
         fs::rename(kept, path, error);
         Raise(Fault_Of_System_Error(reason));
     }
-    fs::permissions(path, permissions, error);
+    const int descriptor = fileno(file.get());
+    // Who may not give the file away keeps it; the permissions come last, since a change of owner cuts them.
+    static_cast<void>(fchown(descriptor, old.st_uid, old.st_gid) == 0);
+    static_cast<void>(fchmod(descriptor, old.st_mode & 07777) == 0);
     return file;
+}
+
+/// Copies beside the file where there is or can be a plain file of that name; nothing where there cannot.
+void Keep_Copy(const fs::path& path, const fs::path& kept) {
+    std::error_code error;
+    const fs::file_status status = fs::symlink_status(kept, error);
+    if (fs::exists(status) && !fs::is_regular_file(status)) return;
+    const std::string content = Read_Whole_File(path.string());
+    if (FileHandle copy = Opened(kept)) Write_And_Close(std::move(copy), content);
 }
 
 FileHandle Opened_Keeping_Content(const std::string& name) {
@@ -61,11 +82,14 @@ FileHandle Opened_Keeping_Content(const std::string& name) {
     if (!fs::exists(status)) return Opened_Or_Fault(path);
 
     Check_Writable(path, status);
+    struct stat old {};
+    if (stat(path.c_str(), &old) != 0) Raise(Fault_Of_System_Error(errno));
     fs::path kept = path;
     kept += "~";
-    fs::rename(path, kept, error);
-    if (!error) return Opened_In_Place_Of(kept, path, status.permissions());
-    fs::copy_file(path, kept, fs::copy_options::overwrite_existing, error);
+    const bool owner_stays = old.st_uid == geteuid() || geteuid() == 0;
+    if (owner_stays) fs::rename(path, kept, error);
+    if (owner_stays && !error) return Opened_In_Place_Of(kept, path, old);
+    Keep_Copy(path, kept);
     return Opened_Or_Fault(path);
 }
 
@@ -74,17 +98,15 @@ FileHandle Opened_Keeping_Content(const std::string& name) {
 OutputFile::OutputFile(const std::string& path) : file_(Opened_Keeping_Content(path)) {}
 
 OutputFile::~OutputFile() {
-    static_cast<void>(std::fwrite(held_back_.data(), 1, held_back_.size(), file_.get()));
+    if (file_) static_cast<void>(std::fwrite(held_back_.data(), 1, held_back_.size(), file_.get()));
 }
 
 void OutputFile::Write(std::string_view text) {
     held_back_ += text;
 }
 
-void OutputFile::Flush() {
-    const std::string text = std::exchange(held_back_, {});
-    const std::size_t written = std::fwrite(text.data(), 1, text.size(), file_.get());
-    if (written != text.size()) Raise(Fault_Of_System_Error(errno));
+void OutputFile::Close() {
+    Write_And_Close(std::move(file_), std::exchange(held_back_, {}));
 }
 
 }  // namespace kervol

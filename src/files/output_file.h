@@ -10,10 +10,12 @@
 namespace kervol {
 
 /// Opens a file emptied for writing. Earlier content is kept beside it under its name with "~" added, one
-/// generation back: by renaming, where that is impossible by copying, else the file is written in place.
-/// Links are followed and permissions kept. Where the new file cannot be opened the old one is put back.
+/// generation back: by renaming, where that is impossible or would change the owner by copying, else the file
+/// is written in place. Links are followed and permissions kept. Where the new file cannot be opened the old
+/// one is put back; where a copy was begun and cannot be finished the file is not touched.
 ///
-/// Raises fault 75 for a target that is no regular file, 70 where there is no right to write.
+/// Raises fault 75 for a target that is no regular file, 70 where there is no right to write, 61 where a copy
+/// has no room.
 class OutputFile {
   public:
     explicit OutputFile(const std::string& path);
@@ -23,9 +25,9 @@ class OutputFile {
     OutputFile& operator=(const OutputFile&) = delete;
 
     void Write(std::string_view text);
-    /// Brings everything written so far to the system; raises the fault of a failed write (61 for a full
-    /// disk), after which the file holds as much as could be written.
-    void Flush();
+    /// Brings everything to the system; raises the fault of a failed write (61 for a full disk), after which
+    /// the file holds as much as could be written. Nothing can be written behind it.
+    void Close();
 
   private:
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> file_;

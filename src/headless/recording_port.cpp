@@ -27,9 +27,10 @@ void RecordingPort::Show_Screen(ScreenId screen, Modality) {
 }
 
 std::string RecordingPort::Long_Path(const std::string& path) {
+    // The name that was given stays, also where it is a link.
     std::error_code error;
-    const auto long_path = std::filesystem::canonical(path, error);
-    return error ? std::string() : long_path.string();
+    const auto long_path = std::filesystem::absolute(path, error).lexically_normal();
+    return !error && std::filesystem::exists(long_path, error) ? long_path.string() : std::string();
 }
 
 DateAndTime RecordingPort::Short_Date_And_Time() {

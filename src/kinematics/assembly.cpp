@@ -72,14 +72,20 @@ void Classify_Stage(LinkageModel& model, float l1, float l2, float l3, float l4,
     model.StageText(index) = text;
 }
 
-void Classify_Stage1(LinkageModel& model) {
-    Classify_Stage(model, model.Link2, model.Link3, model.Link4, model.Link1, 0, model.Stage1Class);
+void Classify_Stage1(Program& program) {
+    LinkageModel& model = program.model;
+    Procedure(program, "Classify_Stage", [&] {
+        Classify_Stage(model, model.Link2, model.Link3, model.Link4, model.Link1, 0, model.Stage1Class);
+    });
 }
 
-void Classify_Stage2(LinkageModel& model) {
-    if (model.LinkageType == "W")
+void Classify_Stage2(Program& program) {
+    LinkageModel& model = program.model;
+    if (model.LinkageType != "W") return;
+    Procedure(program, "Classify_Stage", [&] {
         Classify_Stage(model, model.LinkO4D, model.Link5, model.Link6, model.O4O6Length, 1,
                        model.Stage2Class);
+    });
 }
 
 double Check_Limit_Angles(Port& port, float a, float b, float c, float d) {

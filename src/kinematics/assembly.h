@@ -14,9 +14,10 @@ namespace kervol {
 void Classify_Stage(LinkageModel& model, float l1, float l2, float l3, float l4, int index,
                     std::string& out_class);
 
-/// Classifies Stage 1, and Stage 2 of a Watt chain; a Stephenson chain has no Stage 2 class.
-void Classify_Stage1(LinkageModel& model);
-void Classify_Stage2(LinkageModel& model);
+/// Classify the program's Stage 1, and Stage 2 of a Watt chain; a Stephenson chain has no Stage 2 class. A
+/// fault is reported under the name of `Classify_Stage`; the caller goes on.
+void Classify_Stage1(Program& program);
+void Classify_Stage2(Program& program);
 
 /// Angle in degrees at which a loop of input a, coupler b, output c and ground d reaches its limit.
 double Check_Limit_Angles(Port& port, float a, float b, float c, float d);

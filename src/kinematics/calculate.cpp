@@ -91,24 +91,27 @@ void Store_Stage2(LinkageModel& model, Row& row, const Stage2& stage) {
     Put_Point(row, 3, stage.start);
     Put_Point(row, 4, stage.end);
     Put_Point(row, 5, stage.coupler2);
+    row.Omega(3) = Single(stage.omega5);
+    row.Omega(4) = Single(stage.omega6);
+    row.Alpha(3) = Single(stage.alpha5);
+    row.Alpha(4) = Single(stage.alpha6);
 
     model.Theta5Rad = Single(stage.relative5);
     model.Theta6Rad = Single(stage.relative6);
-    model.Omega5Now = Single(stage.omega5);
-    model.Omega6Now = Single(stage.omega6);
-    model.Alpha5Now = Single(stage.alpha5);
-    model.Alpha6Now = Single(stage.alpha6);
+    model.Omega5Now = row.Omega(3);
+    model.Omega6Now = row.Omega(4);
+    model.Alpha5Now = row.Alpha(3);
+    model.Alpha6Now = row.Alpha(4);
 }
 
-/// The stores that run for every chain. One without a Stage 2 tabulates the working state left from an
-/// earlier one.
-void Store_Output_Motion(const LinkageModel& model, Row& row, double omega6) {
+/// A chain without a Stage 2 has no points there and tabulates the motion left from an earlier one.
+void Store_No_Stage2(const LinkageModel& model, Row& row) {
+    Put_Point(row, 4, {});
+    Put_Point(row, 5, {});
     row.Omega(3) = model.Omega5Now;
     row.Omega(4) = model.Omega6Now;
     row.Alpha(3) = model.Alpha5Now;
     row.Alpha(4) = model.Alpha6Now;
-    row.Theta(7) = Transmission_Angle_2(row.Theta(4), row.Theta(5));
-    Put_Speed_Ratios(model.Omega2, omega6, row.VelRatio(1), row.MechAdv(1));
 }
 
 }  // namespace
@@ -131,10 +134,10 @@ void Calculate(Program& program, std::int16_t step, Answer& response) {
             Store_Stage2(model, row, *stage2);
             omega6 = stage2->omega6;
         } else {
-            Put_Point(row, 4, {});
-            Put_Point(row, 5, {});
+            Store_No_Stage2(model, row);
         }
-        Store_Output_Motion(model, row, omega6);
+        row.Theta(7) = Transmission_Angle_2(row.Theta(4), row.Theta(5));
+        Put_Speed_Ratios(model.Omega2, omega6, row.VelRatio(1), row.MechAdv(1));
 
         model.DataCalculated = true;
         model.DataFromFile = false;

@@ -91,9 +91,7 @@ void Load_Example(LinkageModel& model, const Example& example) {
         Set_Angle(model.Delta4Deg, model.Delta4, model.Delta4Text);
     }
     Set_Angle(model.Delta5Deg, model.Delta5, model.Delta5Text);
-    Set_Angle(model.ThetaMinDeg, model.ThetaMin, model.ThetaMinText);
-    Set_Angle(model.ThetaMaxDeg, model.ThetaMax, model.ThetaMaxText);
-    Set_Angle(model.ThetaStepDeg, model.ThetaStep, model.ThetaStepText);
+    Set_Range_Angles(model);
     Derive_Geometry(model);
 }
 

@@ -7,6 +7,8 @@
 
 #include "core/arithmetic.h"
 #include "core/geometry.h"
+#include "core/number_text.h"
+#include "core/report.h"
 #include "kinematics/assembly.h"
 #include "kinematics/sweep.h"
 
@@ -33,10 +35,8 @@ Refusal Sweep_Or_Refuse(Program& program, Answer& response) {
     if (mode == 3) refusal = Count_Angle_Steps(program);
     if (refusal == Refusal::TooManyAngleSteps) response = Answer::Abort;
     if (refusal != Refusal::None) return refusal;
-    if (mode == 4 || mode == 5)
-        Calc_Drive_Data(program, response);
-    else
-        Run_Sweep(program, mode, response);
+    if (mode == 4 || mode == 5) Calc_Drive_Data(program, response);
+    if (mode >= 1 && mode <= 3) Run_Sweep(program, mode, response);
     return refusal;
 }
 
@@ -48,9 +48,7 @@ bool Count_Angle_Range(LinkageModel& model) {
 
 Refusal Count_Angle_Steps(Program& program) {
     LinkageModel& model = program.model;
-    Set_Angle(model.ThetaMinDeg, model.ThetaMin, model.ThetaMinText);
-    Set_Angle(model.ThetaMaxDeg, model.ThetaMax, model.ThetaMaxText);
-    Set_Angle(model.ThetaStepDeg, model.ThetaStep, model.ThetaStepText);
+    Set_Range_Angles(model);
     if (Is_Zero(model.ThetaStep)) {
         Refuse(program, "Cannot have a zero step size - Please check your data.");
         return Refusal::ZeroAngleStep;
@@ -65,6 +63,11 @@ Refusal Count_Angle_Steps(Program& program) {
 
 Refusal Count_Time_Steps(Program& program) {
     LinkageModel& model = program.model;
+    if (model.CalcMode == 2) {
+        model.ThetaMinText = Plain_Number(model.TimeStart);
+        model.ThetaMaxText = Plain_Number(model.TimeEnd);
+        model.ThetaStepText = Plain_Number(model.TimeStep);
+    }
     if (model.TimeStep > 0 && Count_Steps(model, double(model.TimeEnd) - model.TimeStart, model.TimeStep))
         return Refusal::None;
     Refuse(program, "Your time steps are too small - Have > " + std::to_string(MaxSteps) +
@@ -84,15 +87,19 @@ CalculationEnd Calculate_Model(Program& program) {
         model.NewData = true;
     }
     if (refusal != Refusal::None) return CalculationEnd::Refused;
+    if (model.CalcMode < 1 || model.CalcMode > 5) return CalculationEnd::NoMode;
     return response == Answer::Abort ? CalculationEnd::Abandoned : CalculationEnd::Done;
 }
 
 void Set_Preview_Range(Program& program) {
     LinkageModel& model = program.model;
     model.DataCalculated = false;
-    Classify_Stage1(model);
+    Classify_Stage1(program);
     if (model.Stage1Class == "N") {
-        Check_Limit_Angles(program.port, model.Link2, model.Link3, model.Link4, model.Link1);
+        // The limit angle itself is not used; what it shows on the way is.
+        Procedure(program, "Check_Limit_Angles", [&] {
+            Check_Limit_Angles(program.port, model.Link2, model.Link3, model.Link4, model.Link1);
+        });
         model.ThetaMin = Single(-1 * RadiansPerDegree);
         model.ThetaMax = Single(1 * RadiansPerDegree);
     } else {
@@ -101,7 +108,7 @@ void Set_Preview_Range(Program& program) {
     }
     model.ThetaStep = Single((double(model.ThetaMax) - model.ThetaMin) / 10);
     Count_Angle_Range(model);
-    Classify_Stage2(model);
+    Classify_Stage2(program);
 }
 
 }  // namespace kervol

@@ -9,17 +9,22 @@ namespace kervol {
 enum class Refusal { None, ZeroAngleStep, TooManyAngleSteps, TimeSteps };
 
 /// Fixes `NumSteps` from the angle range in radians; false where there are more than `MaxSteps`. A count
-/// beyond 16 bits leaves the old one.
+/// beyond 16 bits, either way, leaves the old one.
 bool Count_Angle_Range(LinkageModel& model);
 
-/// Takes the angle range of mode 3 from its degree fields and fixes `NumSteps`, or shows why it is refused. A
-/// count beyond 16 bits is refused and leaves the old one.
+/// Takes the angle range of mode 3 from its degree fields and fixes `NumSteps`, or shows why it is refused.
 Refusal Count_Angle_Steps(Program& program);
 
-/// Fixes `NumSteps` from the time range of modes 1 and 2, or shows why it is refused.
+/// Fixes `NumSteps` from the time range of modes 1 and 2, or shows why it is refused. In mode 2 the range's
+/// texts become times.
 Refusal Count_Time_Steps(Program& program);
 
-enum class CalculationEnd { Done, Refused, Abandoned };
+enum class CalculationEnd {
+    Done,
+    Refused,    ///< the number of steps
+    NoMode,     ///< the mode is none of 1 to 5
+    Abandoned,  ///< by the user, at a position that cannot be assembled
+};
 
 /// The whole calculation of the model's mode, as the Calculate button does it: refusals, sweep or drive data,
 /// closing flags. A refusal other than for too many angle steps closes like a sweep, deliberately, over the

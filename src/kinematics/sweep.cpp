@@ -46,8 +46,8 @@ void Run_Sweep(Program& program, std::int16_t CalcMode, Answer& response) {
     Procedure(program, "Run_Sweep", [&] {
         Start_Sweep(program.model);
         Set_Open_Signs(program.model);
-        Classify_Stage1(program.model);
-        Classify_Stage2(program.model);
+        Classify_Stage1(program);
+        Classify_Stage2(program);
         if (CalcMode == 1) Calc_One_Position(program, response);
         if (CalcMode == 2) Calc_Time_Steps(program, response);
         if (CalcMode == 3) Calc_Angle_Steps(program, response);

@@ -3,6 +3,7 @@
 
 #include "core/path_text.h"
 #include "core/report.h"
+#include "core/text_encoding.h"
 #include "core/units.h"
 #include "dynamics/link_data.h"
 #include "files/disk.h"
@@ -85,8 +86,9 @@ void Open_Clicked_File(Program& program, const std::string& command_line) {
     if (command_line.empty()) return;
     Procedure(program, " in Open_Clicked_File", [&] {
         const std::string long_path = program.port.Long_Path(command_line);
-        program.model.ModelPath = long_path.empty() ? command_line : long_path;
-        ValueReader file(Read_Whole_File(program.model.ModelPath));
+        const std::string& path = long_path.empty() ? command_line : long_path;
+        program.model.ModelPath = Decoded(path);
+        ValueReader file(Read_Whole_File(path));
         Readfile(program, file);
         program.model.ModelName = StripFilename(program.model.ModelPath);
         program.port.Set_Pointer(Pointer::Default);
