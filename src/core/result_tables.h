@@ -11,7 +11,8 @@ namespace kervol {
 struct Program;
 
 struct ResultTables {
-    // Written by `Calculate`; zeroed, but for StepValid, by `Clear_Tables` and, for a row, by `Cannot_Assemble`.
+    // Written by `Calculate`; zeroed, but for StepValid, by `Clear_Tables` and, for a row, by
+    // `Cannot_Assemble`.
 
     /// The linkage assembled at the step.
     Table<bool, StepRows> StepValid;

@@ -65,11 +65,13 @@ FileHandle Opened_In_Place_Of(const fs::path& kept, const fs::path& path, const 
     return file;
 }
 
-/// Copies beside the file where there is or can be a plain file of that name; nothing where there cannot.
+/// Copies beside the file where that can be read and there is or can be a plain file of that name; else
+/// nothing.
 void Keep_Copy(const fs::path& path, const fs::path& kept) {
     std::error_code error;
     const fs::file_status status = fs::symlink_status(kept, error);
     if (fs::exists(status) && !fs::is_regular_file(status)) return;
+    if (access(path.c_str(), R_OK) != 0) return;
     const std::string content = Read_Whole_File(path.string());
     if (FileHandle copy = Opened(kept)) Write_And_Close(std::move(copy), content);
 }

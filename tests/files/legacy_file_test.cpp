@@ -82,7 +82,7 @@ TEST_F(LegacyFile, TakesTheRangeFromItsTextsAndRoundsTheRadiansToThreePlaces) {
     EXPECT_EQ(model.ThetaStep, 0.079F);  // 0.0785398...
 }
 
-TEST_F(LegacyFile, ANegativeRangeAngleIsRoundedTowardsPlusInfinityAtAHalf) {
+TEST_F(LegacyFile, ARangeAngleMayBeNegativeOrNoNumberAtAll) {
     Read_With(42, "\"-90\"");  // -1.570796 radians
     Expect_Success();
     EXPECT_EQ(model.ThetaMin, -1.571F);

@@ -64,11 +64,11 @@ TEST_F(ClickedFile, OpensSilentlyAndTakesTheFilesName) {
     EXPECT_EQ(port.pointer, Pointer::Default);
 }
 
-TEST_F(ClickedFile, TakesTheLongFormOfThePath) {
+TEST_F(ClickedFile, TakesTheFullPathAndKeepsTheNameOfALink) {
     std::filesystem::create_symlink("crank.kvl", folder / "short.kvl");
-    Open_Clicked_File(*program, folder / "short.kvl");
-    EXPECT_EQ(model.ModelPath, folder / "crank.kvl");
-    EXPECT_EQ(model.ModelName, "crank");
+    Open_Clicked_File(*program, folder / "./short.kvl");
+    EXPECT_EQ(model.ModelPath, folder / "short.kvl");
+    EXPECT_EQ(model.ModelName, "short");
 }
 
 TEST_F(ClickedFile, KeepsTheStringAsItCameWhereThereIsNoLongForm) {
