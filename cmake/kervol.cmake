@@ -2,11 +2,11 @@
 
 add_library(kervol_options INTERFACE)
 target_include_directories(kervol_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
-# -Wrestrict and -Wstringop-overflow of g++ 12 are wrong about joined strings (its bug 105651).
+# -Wrestrict of g++ 12 is wrong about joined strings (its bug 105651).
 # Contracted multiply-adds and relaxed arithmetic would make results differ between builds.
 target_compile_options(kervol_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wfloat-equal -Wold-style-cast
-    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wno-restrict -Wno-stringop-overflow -Werror
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wno-restrict -Werror
     -ffp-contract=off)
 if(KERVOL_SANITIZE)
     target_compile_options(kervol_options INTERFACE
