@@ -4,7 +4,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace kervol {
 
@@ -31,8 +33,25 @@ struct MessageBox {
 };
 
 enum class Pointer { Default, Busy };
-enum class ScreenId { frm_HomeScreen, frm_Inputnew };
+enum class ScreenId {
+    frm_Title,
+    frm_Disclaimer,
+    frm_User,
+    frm_HomeScreen,
+    frm_Inputnew,
+    frm_Animate,
+    frm_About,
+    frm_Quit,
+};
 enum class Modality { Modeless, Modal };
+
+/// A file dialog: its title, its filter as pairs of description and pattern parted by "|", and the proposed
+/// name.
+struct FileDialog {
+    std::string title;
+    std::string filter;
+    std::string name;
+};
 
 struct DateAndTime {
     std::string date;
@@ -48,6 +67,21 @@ class Port {
     virtual void Set_Pointer(Pointer pointer) = 0;
     /// Opens a screen; a modal one returns when it closes.
     virtual void Show_Screen(ScreenId screen, Modality modality) = 0;
+    virtual void Hide_Screen(ScreenId screen) = 0;
+    /// Moves the focus to the control of that name.
+    virtual void Set_Focus(ScreenId screen, std::string_view control) = 0;
+    /// The model was read or replaced: the screens' fields take it.
+    virtual void Fill_Screens() = 0;
+    /// Ends the run of the program.
+    virtual void End_Program() = 0;
+
+    /// The chosen file; nothing after Cancel. The save dialog asks before a file is overwritten.
+    virtual std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) = 0;
+    virtual std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) = 0;
+    /// Prints an image of the screen.
+    virtual void Print_Screen(ScreenId screen) = 0;
+    /// The account's full name, else its login name.
+    virtual std::string User_Name() = 0;
 
     /// The long form of a path given at start-up; empty where the system has none.
     virtual std::string Long_Path(const std::string& path) = 0;

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "core/animation_state.h"
+#include "core/catalogue_names.h"
 #include "core/model.h"
 #include "core/port.h"
 #include "core/result_tables.h"
@@ -34,6 +36,8 @@ struct Program {
 
     LinkageModel model;
     ResultTables tables;
+    AnimationState animation;
+    CatalogueNames catalogue;
     FaultLog faults;
     Port& port;
 };

@@ -96,6 +96,7 @@ ReadEnd Readfile(Program& program, ValueReader& file) {
         {
             const LoadingScope loading(model);
             Rebuild(program);
+            program.port.Fill_Screens();
             model.DataCalculated = false;
             model.DynamicsCalculated = false;
         }
@@ -140,6 +141,15 @@ ReadReport Open_Model(Program& program, const std::string& path) {
         program.model.ModelName = StripFilename(program.model.ModelPath);
     });
     return report;
+}
+
+bool Save_Model(Program& program) {
+    bool written = false;
+    Procedure(program, "frm_Homescreen.Save", [&] {
+        OutputFile file(program.model.ModelPath);
+        written = Writefile(program, file);
+    });
+    return written;
 }
 
 bool Save_Model_As(Program& program, const std::string& path) {

@@ -38,6 +38,9 @@ bool Writefile(Program& program, OutputFile& file);
 /// Opens a model file or legacy file by name. The tables are the caller's to clear first.
 ReadReport Open_Model(Program& program, const std::string& path);
 
+/// Writes the model to the file in use. False after a fault.
+bool Save_Model(Program& program);
+
 /// Writes the model to a file of that name, which becomes the file in use. False after a fault.
 bool Save_Model_As(Program& program, const std::string& path);
 

@@ -26,6 +26,23 @@ void RecordingPort::Show_Screen(ScreenId screen, Modality) {
     screens.push_back(screen);
 }
 
+void RecordingPort::Hide_Screen(ScreenId screen) {
+    hidden.push_back(screen);
+}
+
+void RecordingPort::Set_Focus(ScreenId, std::string_view control) {
+    focus = control;
+}
+
+std::optional<std::string> RecordingPort::Ask_File_To_Open(const FileDialog& dialog) {
+    dialogs.push_back(dialog);
+    return file ? file(dialog) : std::nullopt;
+}
+
+std::optional<std::string> RecordingPort::Ask_File_To_Save(const FileDialog& dialog) {
+    return Ask_File_To_Open(dialog);
+}
+
 std::string RecordingPort::Long_Path(const std::string& path) {
     // The name that was given stays, also where it is a link.
     std::error_code error;

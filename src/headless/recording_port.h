@@ -20,16 +20,33 @@ class RecordingPort : public Port {
     Answer Show_Message(const MessageBox& box) override;
     void Set_Pointer(Pointer shape) override { pointer = shape; }
     void Show_Screen(ScreenId screen, Modality modality) override;
+    void Hide_Screen(ScreenId screen) override;
+    void Set_Focus(ScreenId screen, std::string_view control) override;
+    void Fill_Screens() override { ++fills; }
+    void End_Program() override { ended = true; }
+    std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) override;
+    std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;
+    void Print_Screen(ScreenId screen) override { printed.push_back(screen); }
+    std::string User_Name() override { return user_name; }
     std::string Long_Path(const std::string& path) override;
     DateAndTime Short_Date_And_Time() override;
     bool Shows_Repeated_Faults() const override { return shows_repeated_faults; }
 
     /// Answers a box; without one, and for `Answer::None`, the box's preset button is pressed.
     std::function<Answer(const MessageBox&)> answer;
+    /// Answers a file dialog; without one it is cancelled.
+    std::function<std::optional<std::string>(const FileDialog&)> file;
     bool shows_repeated_faults = true;
+    std::string user_name;
 
     std::vector<Shown> messages;
     std::vector<ScreenId> screens;  ///< in the order in which they were shown
+    std::vector<ScreenId> hidden;
+    std::vector<ScreenId> printed;
+    std::vector<FileDialog> dialogs;
+    std::string focus;  ///< control that was given the focus last
+    int fills = 0;      ///< how often the screens were filled
+    bool ended = false;
     Pointer pointer = Pointer::Default;
 };
 

@@ -46,6 +46,10 @@ bool Count_Angle_Range(LinkageModel& model) {
     return Count_Steps(model, double(model.ThetaMax) - model.ThetaMin, model.ThetaStep);
 }
 
+bool Count_Time_Range(LinkageModel& model) {
+    return model.TimeStep > 0 && Count_Steps(model, double(model.TimeEnd) - model.TimeStart, model.TimeStep);
+}
+
 Refusal Count_Angle_Steps(Program& program) {
     LinkageModel& model = program.model;
     Set_Range_Angles(model);
@@ -68,8 +72,7 @@ Refusal Count_Time_Steps(Program& program) {
         model.ThetaMaxText = Plain_Number(model.TimeEnd);
         model.ThetaStepText = Plain_Number(model.TimeStep);
     }
-    if (model.TimeStep > 0 && Count_Steps(model, double(model.TimeEnd) - model.TimeStart, model.TimeStep))
-        return Refusal::None;
+    if (Count_Time_Range(model)) return Refusal::None;
     Refuse(program, "Your time steps are too small - Have > " + std::to_string(MaxSteps) +
                         " Points - Increase Delta Time or Reduce Finish Time");
     return Refusal::TimeSteps;

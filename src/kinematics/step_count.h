@@ -12,6 +12,9 @@ enum class Refusal { None, ZeroAngleStep, TooManyAngleSteps, TimeSteps };
 /// beyond 16 bits, either way, leaves the old one.
 bool Count_Angle_Range(LinkageModel& model);
 
+/// The same from the time range. Without a positive step nothing is counted and the answer is false.
+bool Count_Time_Range(LinkageModel& model);
+
 /// Takes the angle range of mode 3 from its degree fields and fixes `NumSteps`, or shows why it is refused.
 Refusal Count_Angle_Steps(Program& program);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "startup/launch.h"
 
+#include "catalogue/names.h"
 #include "core/path_text.h"
 #include "core/report.h"
 #include "core/text_encoding.h"
@@ -64,6 +65,7 @@ void Initialize(Program& program) {
         model.DesignNumber = 1;
         Set_Motion_Defaults(model);
         Set_Display_Defaults(model);
+        Fill_Catalogue_Names(program.catalogue);
         Load_Example(model, Examples().front());
         Default_Mass_Properties(model);
         Count_Angle_Range(model);

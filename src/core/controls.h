@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Controls of a screen as plain records: what stands on them and what a person may do with them. A toolkit
+// mirrors them.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kervol {
+
+/// What happens when a person uses a control; empty where nothing does.
+using Event = std::function<void()>;
+
+struct Control {
+    bool enabled = true;
+    bool visible = true;
+    /// Why the control stays disabled whatever `enabled` says; empty for one that works.
+    std::string unavailable;
+};
+
+struct Label : Control {
+    std::string caption;
+};
+
+struct Button : Control {
+    std::string caption;
+    Event click;
+};
+
+/// A field keeps the value behind the text that the program put, so that reading it back loses nothing.
+struct TextField : Control {
+    std::string text;
+    std::optional<float> put_value;  ///< nothing for a plain text, and after any change by the user
+    Event change, lost_focus, enter;
+};
+
+struct Frame : Control {
+    std::string caption;
+};
+
+/// An option of a group; at most one of a group is on.
+struct OptionButton : Control {
+    std::string caption;
+    bool on = false;
+    Event click;
+};
+
+struct CheckBox : Control {
+    std::string caption;
+    bool on = false;
+    Event click;
+};
+
+struct ScrollBar : Control {
+    int minimum = 0;
+    int maximum = 0;
+    int value = 0;
+    Event change, scroll;
+};
+
+struct ComboBox : Control {
+    std::string text;
+    std::vector<std::string> items;
+    Event change;
+};
+
+struct MenuItem : Control {
+    std::string caption;
+    bool checked = false;
+    Event click;
+};
+
+}  // namespace kervol

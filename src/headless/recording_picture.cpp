@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "headless/recording_picture.h"
+
+#include "core/arithmetic.h"
+#include "core/fault.h"
+
+namespace kervol {
+
+void RecordingPicture::Clear() {
+    drawn.push_back({Drawn::Kind::Clear});
+    Move_To(0, 0);
+}
+
+void RecordingPicture::Set_Scale(double left, double top, double right, double bottom) {
+    if (Is_Same(left, right) || Is_Same(top, bottom)) Raise(fault::InvalidCall);
+    drawn.push_back({Drawn::Kind::Scale, left, top, right, bottom});
+}
+
+void RecordingPicture::Set_Background(Colour colour) {
+    drawn.push_back({Drawn::Kind::Background, 0, 0, 0, 0, colour});
+}
+
+void RecordingPicture::Line(double x1, double y1, double x2, double y2, Colour colour) {
+    drawn.push_back({Drawn::Kind::Line, x1, y1, x2, y2, colour});
+    Move_To(x2, y2);
+}
+
+void RecordingPicture::Line_To(double x, double y, Colour colour) {
+    Line(x_, y_, x, y, colour);
+}
+
+void RecordingPicture::Circle(double x, double y, double radius, Colour colour) {
+    drawn.push_back({Drawn::Kind::Circle, x, y, radius, 0, colour});
+    Move_To(x, y);
+}
+
+void RecordingPicture::Set_Point(double x, double y, Colour colour) {
+    drawn.push_back({Drawn::Kind::Point, x, y, 0, 0, colour});
+    Move_To(x, y);
+}
+
+void RecordingPicture::Move_To(double x, double y) {
+    x_ = x;
+    y_ = y;
+}
+
+}  // namespace kervol

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "headless/svg_picture.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <string_view>
+#include <unordered_set>
+
+#include "core/arithmetic.h"
+#include "core/fault.h"
+
+namespace kervol {
+namespace {
+
+constexpr double kPenWidth = 1.5;   // pixels
+constexpr double kDotRadius = 1.2;  // pixels
+constexpr int kDecimals = 2;        // of a pixel
+constexpr Colour kWhite = {255, 255, 255};
+
+/// What ends an element; a path takes more points in front of it.
+constexpr std::string_view kEnd = "\"/>\n";
+
+/// Room for any double in fixed form.
+constexpr std::size_t kLongestNumber = 400;
+
+/// Fixed form without trailing zeros, the same in every locale.
+std::string Number(double value) {
+    std::array<char, kLongestNumber> buffer;
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                   std::chars_format::fixed, kDecimals);
+    std::string text(buffer.data(), end.ptr);
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.back() == '.') text.pop_back();
+    return text == "-0" ? "0" : text;
+}
+
+std::string Colour_Text(Colour colour) {
+    std::array<char, 8> buffer;
+    static_cast<void>(std::snprintf(buffer.data(), buffer.size(), "#%02x%02x%02x",
+                                    static_cast<unsigned>(colour.red), static_cast<unsigned>(colour.green),
+                                    static_cast<unsigned>(colour.blue)));
+    return buffer.data();
+}
+
+}  // namespace
+
+SvgPicture::SvgPicture(int side)
+    : side_(side), window_{0, 0, double(side), double(side)}, background_(kWhite) {}
+
+void SvgPicture::Clear() {
+    elements_.clear();
+    Move_To(0, 0);
+}
+
+void SvgPicture::Set_Scale(double left, double top, double right, double bottom) {
+    if (Is_Same(left, right) || Is_Same(top, bottom)) Raise(fault::InvalidCall);
+    const bool same = Is_Same(left, window_.left) && Is_Same(top, window_.top) &&
+                      Is_Same(right, window_.right) && Is_Same(bottom, window_.bottom);
+    if (!same) Clear();
+    window_ = {left, top, right, bottom};
+}
+
+void SvgPicture::Set_Background(Colour colour) {
+    background_ = colour;
+}
+
+void SvgPicture::Line(double x1, double y1, double x2, double y2, Colour colour) {
+    const bool goes_on = path_open_ && colour == path_colour_ && Is_Same(x1, x_) && Is_Same(y1, y_);
+    if (goes_on)
+        elements_.back().resize(elements_.back().size() - kEnd.size());
+    else
+        elements_.push_back("<path stroke=\"" + Colour_Text(colour) + "\" d=\"M" + Position(x1, y1));
+    elements_.back() += "L" + Position(x2, y2);
+    elements_.back() += kEnd;
+    Move_To(x2, y2);
+    path_open_ = true;
+    path_colour_ = colour;
+}
+
+void SvgPicture::Line_To(double x, double y, Colour colour) {
+    Line(x_, y_, x, y, colour);
+}
+
+void SvgPicture::Circle(double x, double y, double radius, Colour colour) {
+    const double pixels = std::abs(radius * side_ / (window_.right - window_.left));
+    Put_Circle(x, y, pixels, "stroke", colour);
+    Move_To(x, y);
+}
+
+void SvgPicture::Set_Point(double x, double y, Colour colour) {
+    Put_Circle(x, y, kDotRadius, "fill", colour);
+    Move_To(x, y);
+}
+
+std::string SvgPicture::Text() const {
+    const std::string side = std::to_string(side_);
+    std::string text = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + side + "\" height=\"" + side +
+                       "\" viewBox=\"0 0 " + side + " " + side + "\">\n<rect width=\"" + side +
+                       "\" height=\"" + side + "\" fill=\"" + Colour_Text(background_) +
+                       "\"/>\n<g fill=\"none\" stroke-width=\"" + Number(kPenWidth) +
+                       "\" stroke-linecap=\"round\" stroke-linejoin=\"round\">\n";
+    for (const std::string_view element : Visible_Elements()) text += element;
+    return text + "</g>\n</svg>\n";
+}
+
+std::vector<std::string_view> SvgPicture::Visible_Elements() const {
+    std::unordered_set<std::string_view> seen;
+    std::vector<std::string_view> visible;
+    for (auto element = elements_.rbegin(); element != elements_.rend(); ++element)
+        if (seen.insert(*element).second) visible.push_back(*element);
+    std::reverse(visible.begin(), visible.end());
+    return visible;
+}
+
+void SvgPicture::Put_Circle(double x, double y, double pixels, const char* paint, Colour colour) {
+    elements_.push_back("<circle cx=\"" + Across(x) + "\" cy=\"" + Down(y) + "\" r=\"" + Number(pixels) +
+                        "\" " + paint + "=\"" + Colour_Text(colour));
+    elements_.back() += kEnd;
+}
+
+std::string SvgPicture::Across(double x) const {
+    return Number((x - window_.left) * side_ / (window_.right - window_.left));
+}
+
+std::string SvgPicture::Down(double y) const {
+    return Number((y - window_.top) * side_ / (window_.bottom - window_.top));
+}
+
+std::string SvgPicture::Position(double x, double y) const {
+    return Across(x) + " " + Down(y);
+}
+
+void SvgPicture::Move_To(double x, double y) {
+    x_ = x;
+    y_ = y;
+    path_open_ = false;
+}
+
+}  // namespace kervol

@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/binder.h"
+
+#include <QAction>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace kervol {
+namespace {
+
+bool Is_Enter(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// Another window, a menu: the user is still in the field.
+bool Is_Passing(const QEvent& event) {
+    const auto reason = static_cast<const QFocusEvent&>(event).reason();
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+bool Works(const Control& control) {
+    return control.enabled && control.unavailable.empty();
+}
+
+/// Names that the toolkit itself or a part of a form without a record may carry.
+bool Is_Own_Name(const QString& name) {
+    return name.isEmpty() || name.startsWith("qt_") || name == "Picture1";
+}
+
+}  // namespace
+
+QString Qt_Text(const std::string& text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString Shown_Caption(const std::string& caption) {
+    QString text = Qt_Text(caption);
+    text.replace("\r\n", "\n").replace('\r', '\n');
+    QStringList lines = text.split('\n');
+    for (QString& line : lines)
+        while (line.startsWith(' ') || line.startsWith('\t')) line.remove(0, 1);
+    while (lines.size() > 1 && lines.first().isEmpty()) lines.removeFirst();
+    return lines.join('\n');
+}
+
+Binder::Binder(QWidget& form, Runner run) : form_(form), run_(std::move(run)) {}
+
+template <class Widget>
+Widget* Binder::Take(const std::string& name) {
+    names_.insert(name);
+    auto* widget = form_.findChild<Widget*>(Qt_Text(name));
+    if (widget == nullptr) missing_.push_back(name);
+    return widget;
+}
+
+template <class Widget>
+void Binder::Push_Common(Widget& widget, const Control& control) const {
+    widget.setEnabled(Works(control));
+    widget.setVisible(control.visible);
+    if (!control.unavailable.empty()) widget.setToolTip(Qt_Text(control.unavailable));
+}
+
+void Binder::Act(const Control& control, const Event& event) {
+    if (pushing_) return;
+    Leave_Field();
+    // Leaving the field may have taken the control away.
+    if (Works(control)) run_(event);
+}
+
+void Binder::Add(const std::string& name, Label& label) {
+    auto* widget = Take<QLabel>(name);
+    if (widget == nullptr) return;
+    widget->setTextFormat(Qt::PlainText);
+    Push_Later([this, widget, &label] {
+        const QString text = Shown_Caption(label.caption);
+        if (widget->text() != text) widget->setText(text);
+        Push_Common(*widget, label);
+    });
+}
+
+void Binder::Add(const std::string& name, Button& button) {
+    auto* widget = Take<QPushButton>(name);
+    if (widget == nullptr) return;
+    widget->setAutoDefault(false);
+    widget->installEventFilter(this);
+    connect(widget, &QPushButton::clicked, this, [this, widget, &button] {
+        // A mnemonic clicks without moving the focus.
+        if (!widget->hasFocus()) widget->setFocus(Qt::ShortcutFocusReason);
+        Act(button, button.click);
+    });
+    Push_Later([this, widget, &button] {
+        widget->setText(Shown_Caption(button.caption));
+        Push_Common(*widget, button);
+    });
+}
+
+void Binder::Add(const std::string& name, TextField& field) {
+    auto* widget = Take<QLineEdit>(name);
+    if (widget == nullptr) return;
+    fields_.push_back({&field, widget});
+    widget->installEventFilter(this);
+    connect(widget, &QLineEdit::textEdited, this, [this, widget, &field](const QString& text) {
+        field.text = text.toStdString();
+        field.put_value.reset();
+        entered_ = {&field, widget};
+        run_(field.change);
+    });
+    Push_Later([this, widget, &field] {
+        const QString text = Qt_Text(field.text);
+        if (widget->text() != text) {
+            const bool selected = widget->hasFocus() && widget->hasSelectedText();
+            widget->setText(text);
+            widget->setCursorPosition(0);
+            if (selected) widget->selectAll();
+        }
+        Push_Common(*widget, field);
+    });
+}
+
+void Binder::Add(const std::string& name, Frame& frame) {
+    auto* widget = Take<QWidget>(name);
+    if (widget == nullptr) return;
+    Push_Later([this, widget, &frame] {
+        if (auto* group = qobject_cast<QGroupBox*>(widget)) group->setTitle(Shown_Caption(frame.caption));
+        Push_Common(*widget, frame);
+    });
+}
+
+void Binder::Add(const std::string& name, CheckBox& box) {
+    auto* widget = Take<QCheckBox>(name);
+    if (widget == nullptr) return;
+    connect(widget, &QCheckBox::clicked, this, [this, &box](bool on) {
+        Leave_Field();
+        box.on = on;
+        Act(box, box.click);
+    });
+    Push_Later([this, widget, &box] {
+        const QSignalBlocker quiet(widget);
+        widget->setText(Shown_Caption(box.caption));
+        widget->setChecked(box.on);
+        Push_Common(*widget, box);
+    });
+}
+
+void Binder::Add_Options(const std::string& name, OptionButton* options, std::size_t count) {
+    auto* group = new QButtonGroup(this);
+    std::vector<QRadioButton*> widgets;
+    for (std::size_t i = 0; i < count; ++i) {
+        auto* widget = Take<QRadioButton>(name + "_" + std::to_string(i));
+        if (widget == nullptr) return;
+        group->addButton(widget);
+        widgets.push_back(widget);
+        // Only a change counts as a click: the chosen option may be clicked again without effect.
+        connect(widget, &QRadioButton::toggled, this, [this, options, count, i](bool on) {
+            if (pushing_ || !on) return;
+            Leave_Field();
+            for (std::size_t other = 0; other < count; ++other) options[other].on = other == i;
+            Act(options[i], options[i].click);
+        });
+    }
+    Push_Later([this, group, widgets, options] {
+        group->setExclusive(false);
+        for (std::size_t i = 0; i < widgets.size(); ++i) {
+            const QSignalBlocker quiet(widgets[i]);
+            widgets[i]->setText(Shown_Caption(options[i].caption));
+            widgets[i]->setChecked(options[i].on);
+            Push_Common(*widgets[i], options[i]);
+        }
+        group->setExclusive(true);
+    });
+}
+
+void Binder::Add(const std::string& name, ScrollBar& bar) {
+    auto* widget = Take<QScrollBar>(name);
+    if (widget == nullptr) return;
+    connect(widget, &QScrollBar::valueChanged, this, [this, widget, &bar](int value) {
+        Leave_Field();
+        bar.value = value;
+        scrolled_ = widget->isSliderDown();
+        Act(bar, scrolled_ ? bar.scroll : bar.change);
+    });
+    connect(widget, &QScrollBar::sliderReleased, this, [this, &bar] {
+        if (std::exchange(scrolled_, false)) Act(bar, bar.change);
+    });
+    Push_Later([this, widget, &bar] {
+        const QSignalBlocker quiet(widget);
+        widget->setRange(bar.minimum, bar.maximum);
+        widget->setPageStep(std::max(1, (bar.maximum - bar.minimum) / 10));
+        widget->setValue(bar.value);
+        Push_Common(*widget, bar);
+    });
+}
+
+void Binder::Add(const std::string& name, MenuItem& item) {
+    auto* action = Take<QAction>(name);
+    if (action == nullptr) return;
+    connect(action, &QAction::triggered, this, [this, &item] { Act(item, item.click); });
+    Push_Later([this, action, &item] {
+        action->setText(Shown_Caption(item.caption));
+        if (action->isCheckable()) action->setChecked(item.checked);
+        Push_Common(*action, item);
+    });
+}
+
+void Binder::Check_Names() const {
+    std::string wrong;
+    for (const std::string& name : missing_) wrong += "\n  no widget for the control " + name;
+    const auto check = [&](const QObject& object) {
+        const QString name = object.objectName();
+        if (Is_Own_Name(name) || names_.contains(name.toStdString())) return;
+        wrong += "\n  no control for the widget " + name.toStdString();
+    };
+    for (const QWidget* widget : form_.findChildren<QWidget*>()) check(*widget);
+    for (const QAction* action : form_.findChildren<QAction*>()) check(*action);
+    if (!wrong.empty()) throw std::logic_error("A form and its record differ:" + wrong);
+}
+
+void Binder::Push() {
+    pushing_ = true;
+    for (const auto& push : pushes_) push();
+    pushing_ = false;
+}
+
+void Binder::Leave_Field() {
+    if (entered_.record == nullptr || pushing_) return;
+    const Field left = std::exchange(entered_, {});
+    run_(left.record->lost_focus);
+}
+
+void Binder::Set_Focus(std::string_view name) {
+    auto* widget = form_.findChild<QWidget*>(Qt_Text(std::string(name)));
+    if (widget == nullptr) return;
+    widget->setFocus(Qt::OtherFocusReason);
+    auto* edit = qobject_cast<QLineEdit*>(widget);
+    if (edit == nullptr) return;
+    edit->selectAll();
+    const auto field =
+        std::find_if(fields_.begin(), fields_.end(), [&](const Field& f) { return f.widget == edit; });
+    if (field != fields_.end()) entered_ = *field;
+}
+
+bool Binder::Field_Event(const Field& field, QEvent* event) {
+    if (Is_Enter(*event)) {
+        run_(field.record->enter);
+        return true;
+    }
+    if (event->type() == QEvent::FocusIn && !Is_Passing(*event)) {
+        entered_ = field;
+        field.widget->selectAll();
+        // The press that brings the focus sets the cursor and so ends the selection.
+        clicked_in_ = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
+    }
+    if (event->type() == QEvent::MouseButtonRelease && std::exchange(clicked_in_, false) &&
+        !field.widget->hasSelectedText())
+        field.widget->selectAll();
+    if (event->type() == QEvent::FocusOut && !Is_Passing(*event)) Leave_Field();
+    return false;
+}
+
+bool Binder::eventFilter(QObject* watched, QEvent* event) {
+    if (auto* button = qobject_cast<QPushButton*>(watched); button != nullptr && Is_Enter(*event)) {
+        button->click();
+        return true;
+    }
+    const auto field =
+        std::find_if(fields_.begin(), fields_.end(), [&](const Field& f) { return f.widget == watched; });
+    return field != fields_.end() && Field_Event(*field, event);
+}
+
+}  // namespace kervol

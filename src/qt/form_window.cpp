@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/form_window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+namespace kervol {
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (close_asked) close_asked();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && escape_closes && close_asked) return close_asked();
+    QWidget::keyPressEvent(event);
+}
+
+void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
+    if (any_click_closes && close_asked) return close_asked();
+    QWidget::mouseReleaseEvent(event);
+}
+
+}  // namespace kervol

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window of one screen, and the list of functions that lay the windows out.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "core/model.h"
+
+namespace kervol {
+
+class PictureList;
+
+class FormWindow : public QWidget {
+  public:
+    /// The close box, or Escape where `escape_closes`.
+    std::function<void()> close_asked;
+    /// Shows what stands on the form beyond the controls of its record. Runs whenever the records are shown.
+    std::function<void(const LinkageModel& model)> refresh;
+    QWidget* first_focus = nullptr;
+    bool escape_closes = true;
+    bool any_click_closes = false;
+    double screen_share = 0;  ///< how much of the screen the window opens on, if its contents allow
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+};
+
+void Lay_Out_Title(FormWindow& form);
+void Lay_Out_Disclaimer(FormWindow& form);
+void Lay_Out_User(FormWindow& form);
+void Lay_Out_Home(FormWindow& form);
+void Lay_Out_Input(FormWindow& form, PictureList& picture);
+void Lay_Out_About(FormWindow& form);
+void Lay_Out_Quit(FormWindow& form);
+
+}  // namespace kervol

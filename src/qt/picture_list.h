@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What stands on a picture, as a list that can be painted at any size.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <unordered_map>
+#include <vector>
+
+#include "core/picture.h"
+
+namespace kervol {
+
+/// One thing drawn. Line: both ends. Circle: centre and radius `x2`. Point: itself.
+struct Stroke {
+    enum class Kind { Line, Circle, Point };
+
+    Kind kind;
+    double x1, y1, x2, y2;
+    Colour colour;
+
+    bool operator==(const Stroke& other) const;
+};
+
+/// The square or oblong part of the world that the picture shows.
+struct WorldWindow {
+    double left, top, right, bottom;
+};
+
+/// Of several equal strokes only the last is kept: it covers the others, so the picture is the same, its
+/// smooth edges do not darken, and stepping for hours does not grow the list.
+class PictureList : public Picture {
+  public:
+    void Clear() override;
+    /// A changed window clears the picture first: strokes of two windows do not fit each other.
+    void Set_Scale(double left, double top, double right, double bottom) override;
+    void Set_Background(Colour colour) override;
+    void Line(double x1, double y1, double x2, double y2, Colour colour) override;
+    void Line_To(double x, double y, Colour colour) override;
+    void Circle(double x, double y, double radius, Colour colour) override;
+    void Set_Point(double x, double y, Colour colour) override;
+
+    /// In the order of drawing.
+    std::vector<Stroke> Strokes() const;
+    bool Is_Empty() const { return last_.empty(); }
+    const WorldWindow& Window() const { return window_; }
+    Colour Background() const { return background_; }
+
+    /// Called after each change.
+    std::function<void()> changed;
+
+  private:
+    struct StrokeHash {
+        std::size_t operator()(const Stroke& stroke) const;
+    };
+
+    void Add(const Stroke& stroke, double x, double y);
+    void Drop_Covered();
+    void Changed() const {
+        if (changed) changed();
+    }
+
+    std::vector<Stroke> drawn_;                                 ///< with the covered ones
+    std::unordered_map<Stroke, std::size_t, StrokeHash> last_;  ///< where in `drawn_` a stroke stands last
+    WorldWindow window_{0, 0, 1, 1};
+    Colour background_{255, 255, 255};
+    double x_ = 0, y_ = 0;  ///< the current point
+};
+
+}  // namespace kervol

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The port's boxes and file dialogs.
+#include <QAbstractButton>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <array>
+
+#include "qt/file_filter.h"
+#include "qt/qt_port.h"
+
+namespace kervol {
+namespace {
+
+struct AnswerButton {
+    Answer answer;
+    QMessageBox::StandardButton button;
+};
+
+constexpr std::array<AnswerButton, 7> kAnswers = {{
+    {Answer::OK, QMessageBox::Ok},
+    {Answer::Cancel, QMessageBox::Cancel},
+    {Answer::Abort, QMessageBox::Abort},
+    {Answer::Retry, QMessageBox::Retry},
+    {Answer::Ignore, QMessageBox::Ignore},
+    {Answer::Yes, QMessageBox::Yes},
+    {Answer::No, QMessageBox::No},
+}};
+
+QMessageBox::StandardButton Button_Of(Answer answer) {
+    for (const AnswerButton& pair : kAnswers)
+        if (pair.answer == answer) return pair.button;
+    return QMessageBox::NoButton;
+}
+
+QMessageBox::StandardButtons Qt_Buttons(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::OK:
+            return QMessageBox::Ok;
+        case Buttons::OKCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Buttons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Buttons::AbortRetryIgnore:
+            return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::Icon Qt_Icon(Icon icon) {
+    switch (icon) {
+        case Icon::None:
+            return QMessageBox::NoIcon;
+        case Icon::Exclamation:
+            return QMessageBox::Warning;
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::Question:
+            return QMessageBox::Question;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QString Text_Of_Box(const std::string& text) {
+    return Qt_Text(text).replace("\r\n", "\n").replace('\r', '\n');
+}
+
+QString Folder_Of(const std::string& path) {
+    const QFileInfo file(Qt_Text(path));
+    return path.empty() || !file.dir().exists() ? QString() : file.absolutePath();
+}
+
+/// A box that a lost focus brought up by a click on a button takes the release of the mouse. The press
+/// reaches the button when the box has closed, and would leave it down.
+void Release_Stuck_Buttons(QWidget* form) {
+    if (form == nullptr) return;
+    QTimer::singleShot(0, form, [form] {
+        if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
+        for (auto* button : form->findChildren<QAbstractButton*>()) button->setDown(false);
+    });
+}
+
+}  // namespace
+
+Answer QtPort::Show_Message(const MessageBox& box) {
+    if (ended_) return box.preset;
+    Push_All();
+    // A person is asked: the pointer that says "wait" would be wrong until they have answered.
+    const bool busy = busy_;
+    Set_Pointer(Pointer::Default);
+    QMessageBox shown(Front_Window());
+    shown.setWindowTitle(Qt_Text(screens_->program.model.ProgramTitle));
+    shown.setTextFormat(Qt::PlainText);
+    shown.setText(Text_Of_Box(box.text));
+    shown.setIcon(Qt_Icon(box.icon));
+    shown.setStandardButtons(Qt_Buttons(box.buttons));
+    shown.setDefaultButton(Button_Of(box.preset));
+    const int pressed = shown.exec();
+    if (busy) Set_Pointer(Pointer::Busy);
+    Release_Stuck_Buttons(Front_Window());
+    for (const AnswerButton& pair : kAnswers)
+        if (pair.button == pressed) return pair.answer;
+    return box.preset;
+}
+
+std::optional<std::string> QtPort::Ask_File(const FileDialog& dialog, bool saving) {
+    if (ended_) return std::nullopt;
+    Push_All();
+    QFileDialog shown(Front_Window(), Qt_Text(dialog.title));
+    shown.setOption(QFileDialog::DontUseNativeDialog);
+    shown.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    shown.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    shown.setNameFilters(Qt_Name_Filters(dialog.filter));
+    QString folder = Folder_Of(screens_->program.model.ModelPath);
+    if (folder.isEmpty()) folder = last_folder_.empty() ? QDir::currentPath() : Qt_Text(last_folder_);
+    shown.setDirectory(folder);
+    // A pattern as the name is what the filter already says.
+    const QString name = Qt_Text(dialog.name);
+    if (!name.contains('*')) shown.selectFile(name);
+    if (saving) shown.setDefaultSuffix(QFileInfo(name).suffix());
+    if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) return std::nullopt;
+    last_folder_ = shown.directory().absolutePath().toStdString();
+    return QDir::toNativeSeparators(shown.selectedFiles().first()).toStdString();
+}
+
+std::optional<std::string> QtPort::Ask_File_To_Open(const FileDialog& dialog) {
+    return Ask_File(dialog, false);
+}
+
+std::optional<std::string> QtPort::Ask_File_To_Save(const FileDialog& dialog) {
+    return Ask_File(dialog, true);
+}
+
+}  // namespace kervol

@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/qt_port.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QScreen>
+#include <stdexcept>
+
+#include "screens/control_lists.h"
+#include "screens/launch_screens.h"
+
+namespace kervol {
+namespace {
+
+void Place(FormWindow& window) {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr) return;
+    const QRect room = screen->availableGeometry();
+    const QSize wanted = (room.size() * window.screen_share).expandedTo(window.sizeHint());
+    window.resize(wanted.boundedTo(room.size()));
+    window.move(room.center() - window.rect().center());
+}
+
+}  // namespace
+
+QtPort::QtPort() = default;
+QtPort::~QtPort() = default;
+
+void QtPort::Attach(Screens& screens) {
+    screens_ = &screens;
+    screens.frm_Inputnew.Picture1 = &input_picture_;
+}
+
+void QtPort::Run(const Event& event) {
+    if (event && !ended_) event();
+    Push_All();
+}
+
+void QtPort::Push_All() {
+    for (OpenForm& form : forms_) {
+        if (form.binder == nullptr) continue;
+        form.binder->Push();
+        if (form.window->refresh) form.window->refresh(screens_->program.model);
+    }
+}
+
+template <class Record>
+void QtPort::Bind(OpenForm& form, Record& record) {
+    form.binder = std::make_unique<Binder>(*form.window, [this](const Event& event) { Run(event); });
+    Visit_Controls(record, [&](const char* name, auto& control) { form.binder->Add(name, control); });
+    form.binder->Check_Names();
+}
+
+void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
+    switch (screen) {
+        case ScreenId::frm_Title:
+            Lay_Out_Title(*form.window);
+            return Bind(form, screens_->frm_Title);
+        case ScreenId::frm_Disclaimer:
+            Lay_Out_Disclaimer(*form.window);
+            return Bind(form, screens_->frm_Disclaimer);
+        case ScreenId::frm_User:
+            Lay_Out_User(*form.window);
+            return Bind(form, screens_->frm_User);
+        case ScreenId::frm_HomeScreen:
+            Lay_Out_Home(*form.window);
+            return Bind(form, screens_->frm_HomeScreen);
+        case ScreenId::frm_Inputnew:
+            Lay_Out_Input(*form.window, input_picture_);
+            return Bind(form, screens_->frm_Inputnew);
+        case ScreenId::frm_About:
+            Lay_Out_About(*form.window);
+            return Bind(form, screens_->frm_About);
+        case ScreenId::frm_Quit:
+            Lay_Out_Quit(*form.window);
+            return Bind(form, screens_->frm_Quit);
+        case ScreenId::frm_Animate:
+            break;
+    }
+    throw std::logic_error("This screen has no window");
+}
+
+QtPort::OpenForm& QtPort::Made_Form(ScreenId screen) {
+    OpenForm& form = forms_.at(static_cast<std::size_t>(screen));
+    if (form.binder != nullptr) return form;
+    form.window = std::make_unique<FormWindow>();
+    form.window->close_asked = [this, screen] { Close_By_User(screen); };
+    Lay_Out(screen, form);
+    return form;
+}
+
+FormWindow& QtPort::Form(ScreenId screen) {
+    return *Made_Form(screen).window;
+}
+
+void QtPort::Close_By_User(ScreenId screen) {
+    Made_Form(screen).binder->Leave_Field();
+    Run([this, screen] { Close_Screen(*screens_, screen); });
+}
+
+QWidget* QtPort::Front_Window() {
+    if (!stack_.empty() && !stack_.back()->closed) return &Form(stack_.back()->screen);
+    const OpenForm& home = forms_[static_cast<std::size_t>(ScreenId::frm_HomeScreen)];
+    return home.window && home.window->isVisible() ? home.window.get() : nullptr;
+}
+
+void QtPort::Show_Screen(ScreenId screen, Modality modality) {
+    if (ended_) return;
+    if (modality == Modality::Modal) return Wait_For(screen);
+    Open_Window(screen, modality);
+}
+
+void QtPort::Open_Window(ScreenId screen, Modality modality) {
+    OpenForm& form = Made_Form(screen);
+    FormWindow& window = *form.window;
+    form.binder->Forget_Field();
+    if (window.first_focus != nullptr) window.first_focus->setFocus(Qt::OtherFocusReason);
+    Activate_Screen(*screens_, screen);
+    if (modality == Modality::Modal && (stack_.empty() || stack_.back()->closed)) return;
+    window.setWindowTitle(Qt_Text(Screen_Caption(*screens_, screen)).trimmed());
+    window.setWindowModality(modality == Modality::Modal ? Qt::ApplicationModal : Qt::NonModal);
+    Push_All();
+    if (!window.testAttribute(Qt::WA_Moved)) Place(window);
+    if (stack_.size() > 1) Form(stack_[stack_.size() - 2]->screen).hide();
+    window.show();
+    // Shows the focus from the start, not only once a key has moved it.
+    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    window.raise();
+    window.activateWindow();
+}
+
+void QtPort::Wait_For(ScreenId screen) {
+    QEventLoop loop;
+    StackEntry entry{screen, &loop};
+    stack_.push_back(&entry);
+    Open_Window(screen, Modality::Modal);
+    if (!entry.closed) loop.exec();
+    stack_.pop_back();
+    if (!ended_) Return_To_Opener();
+}
+
+/// A modal opener was hidden and comes back, unless it has closed; Home stayed visible and comes to the
+/// front.
+void QtPort::Return_To_Opener() {
+    if (!stack_.empty()) {
+        if (stack_.back()->closed) return;
+        FormWindow& opener = Form(stack_.back()->screen);
+        Push_All();
+        opener.show();
+        opener.activateWindow();
+        return;
+    }
+    const OpenForm& home = forms_[static_cast<std::size_t>(ScreenId::frm_HomeScreen)];
+    if (!home.window || !home.window->isVisible()) return;
+    Activate_Screen(*screens_, ScreenId::frm_HomeScreen);
+    Push_All();
+    home.window->activateWindow();
+}
+
+void QtPort::Hide_Screen(ScreenId screen) {
+    for (StackEntry* entry : stack_) {
+        if (entry->screen != screen) continue;
+        entry->closed = true;
+        entry->loop->quit();
+    }
+    const OpenForm& form = forms_.at(static_cast<std::size_t>(screen));
+    if (form.window) form.window->hide();
+}
+
+void QtPort::Set_Focus(ScreenId screen, std::string_view control) {
+    Made_Form(screen).binder->Set_Focus(control);
+}
+
+void QtPort::Fill_Screens() {
+    kervol::Fill_Screens(*screens_);
+    Push_All();
+}
+
+void QtPort::End_Program() {
+    ended_ = true;
+    for (StackEntry* entry : stack_) entry->closed = true;
+    for (OpenForm& form : forms_)
+        if (form.window) form.window->hide();
+    QCoreApplication::exit(0);
+}
+
+void QtPort::Set_Pointer(Pointer pointer) {
+    const bool busy = pointer == Pointer::Busy;
+    if (busy == busy_) return;
+    busy_ = busy;
+    if (busy)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+}  // namespace kervol

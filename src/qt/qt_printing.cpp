@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Printing a screen.
+#include <QFileDialog>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QStyle>
+#include <algorithm>
+
+#include "core/fault.h"
+#include "qt/qt_port.h"
+
+namespace kervol {
+namespace {
+
+/// The form as large as the page takes it. Drawn anew in light colours, so that its texts stay texts and a
+/// dark desktop does not fill the page with ink.
+void Paint_Form(QPrinter& printer, QWidget& form) {
+    QPainter painter;
+    if (!painter.begin(&printer)) Raise(fault::DeviceIO);
+    const QRectF page = printer.pageLayout().paintRectPixels(printer.resolution());
+    const double scale = std::min(page.width() / form.width(), page.height() / form.height());
+    painter.translate((page.width() - scale * form.width()) / 2, 0);
+    painter.scale(scale, scale);
+    const QPalette own = form.palette();
+    form.setPalette(form.style()->standardPalette());
+    form.render(&painter);
+    form.setPalette(own);
+}
+
+}  // namespace
+
+bool QtPort::Choose_Printer(QPrinter& printer, const QWidget& form) {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) {
+        QPrintDialog dialog(&printer, Front_Window());
+        dialog.setWindowTitle("Print " + form.windowTitle());
+        return dialog.exec() == QDialog::Accepted;
+    }
+    const auto file = Ask_File_To_Save({"No printer was found: save as PDF", "PDF (*.pdf)|*.pdf|",
+                                        screens_->program.model.ModelName + ".pdf"});
+    if (!file) return false;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(Qt_Text(*file));
+    return true;
+}
+
+void QtPort::Print_Screen(ScreenId screen) {
+    FormWindow& form = Form(screen);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageOrientation(form.width() > form.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
+    printer.setDocName(form.windowTitle());
+    if (Choose_Printer(printer, form)) Paint_Form(printer, form);
+}
+
+}  // namespace kervol

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the port asks of the system.
+#include <QDateTime>
+#include <QLocale>
+#include <filesystem>
+
+#include "qt/qt_port.h"
+
+#ifdef Q_OS_UNIX
+#include <pwd.h>
+#include <unistd.h>
+#endif
+
+namespace kervol {
+
+std::string QtPort::User_Name() {
+#ifdef Q_OS_UNIX
+    if (const passwd* account = getpwuid(getuid()); account != nullptr) {
+        // Behind the first comma stand rooms and telephones.
+        const std::string full = account->pw_gecos == nullptr ? "" : account->pw_gecos;
+        const std::string name = full.substr(0, full.find(','));
+        return name.empty() ? account->pw_name : name;
+    }
+    return qEnvironmentVariable("USER").toStdString();
+#else
+    return qEnvironmentVariable("USERNAME").toStdString();
+#endif
+}
+
+std::string QtPort::Long_Path(const std::string& path) {
+    std::error_code error;
+    const auto long_path = std::filesystem::absolute(path, error).lexically_normal();
+    return !error && std::filesystem::exists(long_path, error) ? long_path.string() : std::string();
+}
+
+DateAndTime QtPort::Short_Date_And_Time() {
+    const QDateTime now = QDateTime::currentDateTime();
+    const QLocale locale = QLocale::system();
+    return {locale.toString(now.date(), QLocale::ShortFormat).toStdString(),
+            locale.toString(now.time(), QLocale::ShortFormat).toStdString()};
+}
+
+}  // namespace kervol

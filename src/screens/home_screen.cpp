@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/home_screen.h"
+
+#include <string>
+#include <string_view>
+
+#include "core/arithmetic.h"
+#include "core/mathematics.h"
+#include "core/report.h"
+#include "core/units.h"
+#include "files/model_file.h"
+#include "kinematics/examples.h"
+#include "screens/geometry_fields.h"
+#include "screens/launch_screens.h"
+#include "screens/motion_fields.h"
+#include "startup/launch.h"
+
+namespace kervol {
+namespace {
+
+constexpr const char* kSaveFirst =
+    "The current data has not been saved.  Do you want to save it before resetting?";
+
+bool Unsaved(const LinkageModel& model) {
+    return model.DataCalculated && !model.DataSaved;
+}
+
+bool Wants_To_Save(Port& port) {
+    return port.Show_Message({kSaveFirst, Icon::None, Buttons::YesNo, Answer::Yes}) == Answer::Yes;
+}
+
+void Clear_Input_Picture(Screens& screens) {
+    if (screens.frm_Inputnew.Picture1 != nullptr) screens.frm_Inputnew.Picture1->Clear();
+}
+
+/// An example writes its pivots in both frames but not the ground angle, which may be that of the model
+/// before it.
+void Level_Ground(LinkageModel& model) {
+    Cart_to_Polar(model.O4X, model.O4Y, model.Link1, model.GroundAngleDeg);
+    model.GroundAngle = Single(model.GroundAngleDeg * RadiansPerDegree);
+}
+
+void mnu_New_Click(Screens& screens) {
+    Program& program = screens.program;
+    if (Unsaved(program.model) && Wants_To_Save(program.port)) SaveAs(screens);
+    const Answer answer =
+        program.port.Show_Message({"Please confirm your order to reset all variables to initial values",
+                                   Icon::None, Buttons::OKCancel});
+    if (answer != Answer::OK) return;
+    Initialize(program);
+    Clear_Tables(program);
+    program.model.DataCalculated = false;
+    program.model.ModelTitle.clear();
+    Level_Ground(program.model);
+    Fill_Screens(screens);
+    Update_Home_Buttons(screens);
+    Home_Form_Activate(screens);
+    program.model.DataFromFile = false;
+}
+
+void mnu_Open_Click(Screens& screens) {
+    Program& program = screens.program;
+    if (Unsaved(program.model) && Wants_To_Save(program.port)) {
+        // Deliberate: the save dialog comes twice.
+        SaveAs(screens);
+        SaveAs(screens);
+    }
+    Clear_Tables(program);
+    const auto path = program.port.Ask_File_To_Open(
+        {"Open a model", "KERVOL for Windows (*.kvl)|*.kvl | Kervol DOS(*.ikv)|*.ikv| All (*.*)|*.*|",
+         "*.kvl"});
+    if (!path) return;
+    const ReadReport report = Open_Model(program, *path);
+    Update_Home_Menu(screens);
+    const bool opened = report.line > 0;
+    if (!opened) return;
+    screens.frm_HomeScreen.mnu_New.enabled = true;
+    Clear_Input_Picture(screens);
+}
+
+void mnu_Save_Click(Screens& screens) {
+    const LinkageModel& model = screens.program.model;
+    if (model.DataSaved && !model.ModelPath.empty())
+        Save_Model(screens.program);
+    else
+        SaveAs(screens);
+}
+
+void mnu_pick_Click(Screens& screens, std::int16_t index) {
+    LinkageModel& model = screens.program.model;
+    auto& picks = screens.frm_HomeScreen.mnu_pick;
+    for (MenuItem& pick : picks) pick.checked = false;
+    picks.at(static_cast<std::size_t>(index)).checked = true;
+    model.UnitSystem = index;
+    Put_Units(model);
+}
+
+/// Shows the chosen example in the fields that it changes.
+void Put_Example(Screens& screens) {
+    LinkageModel& model = screens.program.model;
+    model.Loading = true;
+    Put_Input_Geometry(screens);
+    Put_Calc_Geometry(screens);
+    for (LinkageScreen* screen : {static_cast<LinkageScreen*>(&screens.frm_Inputnew),
+                                  static_cast<LinkageScreen*>(&screens.frm_Animate)}) {
+        Put_InitialCond(screens, *screen);
+        Put_OpenCross(model, *screen);
+    }
+    model.Loading = false;
+}
+
+void Choose_Example(Screens& screens, std::string_view name) {
+    Program& program = screens.program;
+    LinkageModel& model = program.model;
+    Load_Example(model, *Find_Example(name));
+    Level_Ground(model);
+    model.CalcMode = 3;
+    Put_Example(screens);
+    model.DataCalculated = true;
+    model.DataFromFile = false;
+    model.DynamicsCalculated = false;
+    program.port.Show_Screen(ScreenId::frm_Inputnew, Modality::Modal);
+    Update_Home_Menu(screens);
+}
+
+void mnu_Disclaimer_Click(Screens& screens) {
+    screens.program.model.StartingUp = false;
+    screens.program.port.Show_Screen(ScreenId::frm_Disclaimer, Modality::Modal);
+}
+
+}  // namespace
+
+void SaveAs(Screens& screens) {
+    Program& program = screens.program;
+    Procedure(program, "frm_Homescreen.SaveAs", [&] {
+        const auto path =
+            program.port.Ask_File_To_Save({"Save the Model", "*.kvl", program.model.ModelName + ".kvl"});
+        if (path) Save_Model_As(program, *path);
+    });
+}
+
+void Quit(Screens& screens) {
+    if (Unsaved(screens.program.model)) SaveAs(screens);
+    screens.program.port.Show_Screen(ScreenId::frm_Quit, Modality::Modal);
+}
+
+void Home_Form_Activate(Screens& screens) {
+    LinkageModel& model = screens.program.model;
+    model.StartingUp = false;
+    model.NewData = true;
+    Update_Home_Menu(screens);
+}
+
+void Update_Home_Menu(Screens& screens) {
+    const LinkageModel& model = screens.program.model;
+    HomeScreen& home = screens.frm_HomeScreen;
+    for (MenuItem* entry : {&home.mnu_New, &home.mnu_Save, &home.mnu_Saveas, &home.mnu_Export})
+        entry->enabled = model.DataCalculated;
+    home.mnu_CalcFFT.enabled = model.DataCalculated && model.CalcMode == 3;
+    home.mnu_Export_Torque.enabled = model.DynamicsCalculated;
+    if (model.CalcMode == 3) home.cmd_Flywheel.enabled = model.DynamicsCalculated;
+    Update_Home_Buttons(screens);
+}
+
+void Update_Home_Buttons(Screens& screens) {
+    const LinkageModel& model = screens.program.model;
+    HomeScreen& home = screens.frm_HomeScreen;
+    home.cmd_Dynamics.enabled = home.cmd_Print.enabled = model.DataCalculated;
+    home.cmd_Animate.enabled = home.cmd_Plot.enabled = model.DataCalculated && model.CalcMode > 1;
+}
+
+void Wire_Home_Screen(Screens& screens) {
+    HomeScreen& home = screens.frm_HomeScreen;
+    const auto on = [&screens](Event& event, const char* name, auto handler) {
+        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
+    };
+    const auto opens = [](ScreenId screen) {
+        return [screen](Screens& all) { all.program.port.Show_Screen(screen, Modality::Modal); };
+    };
+    const auto example = [](std::string_view name) {
+        return [name](Screens& all) { Choose_Example(all, name); };
+    };
+    on(home.cmd_Input.click, "frm_Homescreen.Input", opens(ScreenId::frm_Inputnew));
+    on(home.cmd_Quit.click, "frm_Homescreen.Quit", Quit);
+    on(home.mnu_Quit.click, "frm_Homescreen.Quit", Quit);
+    on(home.mnu_New.click, "frm_Homescreen.New", mnu_New_Click);
+    on(home.mnu_Open.click, "frm_Homescreen.Open", mnu_Open_Click);
+    on(home.mnu_Save.click, "frm_Homescreen.Save", mnu_Save_Click);
+    on(home.mnu_Saveas.click, "frm_Homescreen.SaveAs", SaveAs);
+    for (std::size_t i = 1; i < home.mnu_pick.size(); ++i)
+        on(home.mnu_pick[i].click, "frm_Homescreen.Units",
+           [i](Screens& all) { mnu_pick_Click(all, static_cast<std::int16_t>(i)); });
+    on(home.mnu_Test.click, "frm_Homescreen.Example", example("watt"));
+    on(home.mnu_Hoeken.click, "frm_Homescreen.Example", example("hoeken"));
+    on(home.mnu_Roberts.click, "frm_Homescreen.Example", example("roberts"));
+    on(home.mnu_Double.click, "frm_Homescreen.Example", example("double-dwell"));
+    on(home.mnu_About.click, "frm_Homescreen.About", opens(ScreenId::frm_About));
+    on(home.mnu_Disclaimer.click, "frm_Homescreen.Disclaimer", mnu_Disclaimer_Click);
+}
+
+}  // namespace kervol

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/launch_screens.h"
+
+#include <algorithm>
+
+#include "core/arithmetic.h"
+#include "core/number_text.h"
+#include "core/report.h"
+#include "core/units.h"
+#include "screens/fields.h"
+#include "screens/geometry_fields.h"
+#include "screens/home_screen.h"
+#include "screens/input_events.h"
+#include "screens/motion_fields.h"
+#include "startup/launch.h"
+
+namespace kervol {
+namespace {
+
+void cmd_Start_Click(Screens& screens) {
+    screens.program.port.Hide_Screen(ScreenId::frm_Title);
+    screens.program.port.Show_Screen(ScreenId::frm_Disclaimer, Modality::Modal);
+}
+
+void Disclaimer_Done_Click(Screens& screens) {
+    screens.program.port.Hide_Screen(ScreenId::frm_Disclaimer);
+    if (screens.program.model.StartingUp)
+        screens.program.port.Show_Screen(ScreenId::frm_User, Modality::Modal);
+}
+
+void User_Done_Click(Screens& screens) {
+    LinkageModel& model = screens.program.model;
+    const UserScreen& user = screens.frm_User;
+    Port& port = screens.program.port;
+    if (user.txt_UserName.text.empty()) {
+        port.Set_Focus(ScreenId::frm_User, "txt_UserName");
+        return;
+    }
+    model.UserName = user.txt_UserName.text;
+    model.DesignNumber = Int16(Typed_Number(user.txt_DesignNo.text));
+    port.Hide_Screen(ScreenId::frm_User);
+    port.Show_Screen(ScreenId::frm_HomeScreen, Modality::Modeless);
+}
+
+void txt_Filename_LostFocus(Screens& screens) {
+    screens.program.model.ModelName = screens.frm_User.txt_Filename.text;
+}
+
+void User_Form_Activate(Screens& screens) {
+    const LinkageModel& model = screens.program.model;
+    UserScreen& user = screens.frm_User;
+    user.txt_UserName.text = screens.program.port.User_Name();
+    user.txt_DesignNo.text = std::to_string(model.DesignNumber);
+    user.txt_Filename.text = model.ModelName;
+}
+
+std::string Version_Line(const LinkageModel& model) {
+    return model.ProgramTitle + "\nVersion " + model.VersionText + "  Release " + model.ReleaseText + "\n" +
+           model.ProgramDate;
+}
+
+/// The animation's settings as a file or a fresh start has them.
+void Fill_Settings(const LinkageModel& model, AnimateScreen& screen) {
+    screen.hsc_speed.value = std::clamp(32767 - model.AnimDelay, 0, 32767);
+    screen.txt_Cycles.text = std::to_string(model.AnimCycles);
+    screen.chk_Showlinks.on = model.HideLinks != "Y";
+    screen.chk_Trace.on = model.ShowTrace == "Y";
+}
+
+}  // namespace
+
+void Fill_Screens(Screens& screens) {
+    const LinkageModel& model = screens.program.model;
+    Put_Input_Geometry(screens);
+    Put_Calc_Geometry(screens);
+    Put_InitialCond(screens, screens.frm_Inputnew);
+    Put_InitialCond(screens, screens.frm_Animate);
+    Put_OpenCross(model, screens.frm_Inputnew);
+    Put_OpenCross(model, screens.frm_Animate);
+    Fill_Settings(model, screens.frm_Animate);
+    auto& picks = screens.frm_HomeScreen.mnu_pick;
+    for (MenuItem& pick : picks) pick.checked = false;
+    const std::size_t system = model.UnitSystem <= 0 ? 1 : static_cast<std::size_t>(model.UnitSystem);
+    if (system < picks.size()) picks[system].checked = true;
+    Update_Home_Menu(screens);
+}
+
+void Wire_Screens(Screens& screens) {
+    const auto on = [&screens](Event& event, const char* name, auto handler) {
+        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
+    };
+    const auto hides = [](ScreenId screen) {
+        return [screen](Screens& all) { all.program.port.Hide_Screen(screen); };
+    };
+    Wire_Home_Screen(screens);
+    Wire_Input_Screen(screens);
+    on(screens.frm_Title.cmd_Start.click, "frm_Title.Start", cmd_Start_Click);
+    on(screens.frm_Title.cmd_Abort.click, "frm_Title.Abort",
+       [](Screens& all) { all.program.port.Show_Screen(ScreenId::frm_Quit, Modality::Modal); });
+    on(screens.frm_Disclaimer.cmd_Done.click, "frm_Disclaimer.Done", Disclaimer_Done_Click);
+    on(screens.frm_User.cmd_Done.click, "frm_User.Done", User_Done_Click);
+    on(screens.frm_User.txt_Filename.lost_focus, "frm_User.Filename", txt_Filename_LostFocus);
+    on(screens.frm_User.txt_Filename.enter, "frm_User.Filename", txt_Filename_LostFocus);
+    on(screens.frm_User.txt_UserName.enter, "frm_User.UserName",
+       [](Screens& all) { all.program.port.Set_Focus(ScreenId::frm_User, "cmd_Done"); });
+    on(screens.frm_Quit.cmd_YesQuit.click, "frm_Quit.Yes",
+       [](Screens& all) { all.program.port.End_Program(); });
+    on(screens.frm_Quit.cmd_NoQuit.click, "frm_Quit.No", hides(ScreenId::frm_Quit));
+}
+
+void Activate_Screen(Screens& screens, ScreenId screen) {
+    Procedure(screens.program, "Form_Activate", [&] {
+        switch (screen) {
+            case ScreenId::frm_User:
+                User_Form_Activate(screens);
+                break;
+            case ScreenId::frm_HomeScreen:
+                Home_Form_Activate(screens);
+                break;
+            case ScreenId::frm_Inputnew:
+                Input_Form_Activate(screens);
+                break;
+            case ScreenId::frm_Quit:
+                screens.program.port.Set_Focus(ScreenId::frm_Quit, "cmd_NoQuit");
+                break;
+            case ScreenId::frm_Title:
+            case ScreenId::frm_Disclaimer:
+            case ScreenId::frm_About:
+            case ScreenId::frm_Animate:
+                break;
+        }
+    });
+}
+
+void Close_Screen(Screens& screens, ScreenId screen) {
+    const auto press = [](const Button& button) {
+        if (button.enabled && button.click) button.click();
+    };
+    switch (screen) {
+        case ScreenId::frm_Title:
+            return press(screens.frm_Title.cmd_Abort);
+        case ScreenId::frm_Disclaimer:
+            return press(screens.frm_Disclaimer.cmd_Done);
+        case ScreenId::frm_User:
+            return press(screens.frm_User.cmd_Done);
+        case ScreenId::frm_HomeScreen:
+            return press(screens.frm_HomeScreen.cmd_Quit);
+        case ScreenId::frm_Inputnew:
+            return press(screens.frm_Inputnew.cmd_Cancel);
+        case ScreenId::frm_Quit:
+            return press(screens.frm_Quit.cmd_NoQuit);
+        case ScreenId::frm_About:
+        case ScreenId::frm_Animate:
+            return screens.program.port.Hide_Screen(screen);
+    }
+}
+
+std::string Screen_Caption(const Screens& screens, ScreenId screen) {
+    const std::string& tail = screens.program.model.CaptionTail;
+    switch (screen) {
+        case ScreenId::frm_HomeScreen:
+            return "Home Screen" + tail;
+        case ScreenId::frm_Inputnew:
+            return "Input Screen" + tail;
+        case ScreenId::frm_Animate:
+            return "Animation Screen" + tail;
+        case ScreenId::frm_Disclaimer:
+            return tail;
+        case ScreenId::frm_Title:
+        case ScreenId::frm_User:
+        case ScreenId::frm_About:
+        case ScreenId::frm_Quit:
+            return screens.program.model.ProgramTitle;
+    }
+    return {};
+}
+
+void Launch(Screens& screens, const std::string& command_line) {
+    Program& program = screens.program;
+    Set_Program_Values(program.model);
+    screens.frm_Title.lbl_Version.caption = Version_Line(program.model);
+    screens.frm_About.lbl_Version.caption = Version_Line(program.model);
+    Wire_Screens(screens);
+    Initialize(program);
+    Fill_Screens(screens);
+    Open_Clicked_File(program, command_line);
+    // A file that was read has brought its own unit system.
+    if (!program.model.DataFromFile) {
+        program.model.UnitSystem = 1;
+        Put_Units(program.model);
+        Fill_Screens(screens);
+    }
+    program.port.Show_Screen(ScreenId::frm_Title, Modality::Modal);
+}
+
+}  // namespace kervol

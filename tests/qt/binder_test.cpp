@@ -1,0 +1,275 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/binder.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace kervol {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+template <class Widget>
+Widget* Named(const char* name, QWidget* parent) {
+    auto* widget = new Widget(parent);
+    widget->setObjectName(name);
+    parent->layout()->addWidget(widget);
+    return widget;
+}
+
+/// One control of each kind, in a window of its own; every event enters its name.
+class BinderTest : public ::testing::Test {
+  protected:
+    BinderTest() {
+        new QVBoxLayout(&window);
+        label_widget = Named<QLabel>("lbl_a", &window);
+        field_widget = Named<QLineEdit>("txt_a", &window);
+        second_widget = Named<QLineEdit>("txt_b", &window);
+        button_widget = Named<QPushButton>("cmd_a", &window);
+        check_widget = Named<QCheckBox>("chk_a", &window);
+        bar_widget = Named<QScrollBar>("hsc_a", &window);
+        bar_widget->setOrientation(Qt::Horizontal);
+        bar_widget->setInvertedControls(false);
+        options_widgets = {Named<QRadioButton>("opt_a_0", &window), Named<QRadioButton>("opt_a_1", &window)};
+        action = new QAction(&window);
+        action->setObjectName("mnu_a");
+        Wire();
+        binder = std::make_unique<Binder>(window, [this](const Event& event) {
+            if (event) event();
+            binder->Push();
+        });
+        Add_All();
+        binder->Check_Names();
+        binder->Push();
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        button_widget->setFocus();
+        events.clear();
+    }
+
+    void Wire() {
+        button.caption = "&Calculate";
+        bar.maximum = 100;
+        const auto enter = [this](const char* name) { return [this, name] { events.emplace_back(name); }; };
+        button.click = enter("click");
+        field.change = enter("change");
+        field.lost_focus = enter("lost focus");
+        field.enter = enter("enter");
+        check.click = enter("check");
+        options[0].click = enter("option 0");
+        options[1].click = enter("option 1");
+        bar.change = enter("bar change");
+        bar.scroll = enter("bar scroll");
+        item.click = enter("menu");
+    }
+
+    void Add_All() {
+        binder->Add("lbl_a", label);
+        binder->Add("txt_a", field);
+        binder->Add("txt_b", second);
+        binder->Add("cmd_a", button);
+        binder->Add("chk_a", check);
+        binder->Add("hsc_a", bar);
+        binder->Add("opt_a", options);
+        binder->Add("mnu_a", item);
+    }
+
+    QWidget window;
+    QLabel* label_widget;
+    QLineEdit *field_widget, *second_widget;
+    QPushButton* button_widget;
+    QCheckBox* check_widget;
+    QScrollBar* bar_widget;
+    std::array<QRadioButton*, 2> options_widgets;
+    QAction* action;
+
+    Label label;
+    TextField field, second;
+    Button button;
+    CheckBox check;
+    ScrollBar bar;
+    std::array<OptionButton, 2> options;
+    MenuItem item;
+    std::unique_ptr<Binder> binder;
+    std::vector<std::string> events;
+};
+
+TEST_F(BinderTest, TypingChangesTheRecordAndForgetsTheValueBehindIt) {
+    field.text = "1.5";
+    field.put_value = 1.5F;
+    binder->Push();
+    field_widget->setFocus();
+    QTest::keyClicks(field_widget, "72");
+    EXPECT_EQ(field.text, "72") << "the old text was selected on focus";
+    EXPECT_FALSE(field.put_value);
+    EXPECT_THAT(events, ElementsAre("change", "change"));
+}
+
+TEST_F(BinderTest, AClickIntoAFieldSelectsItsTextAndTheNextOneSetsTheCursor) {
+    field.text = "12345";
+    binder->Push();
+    QTest::mouseClick(field_widget, Qt::LeftButton, {}, {12, field_widget->height() / 2});
+    EXPECT_EQ(field_widget->selectedText(), "12345");
+    QTest::mouseClick(field_widget, Qt::LeftButton, {}, {12, field_widget->height() / 2});
+    EXPECT_EQ(field_widget->selectedText(), "");
+}
+
+TEST_F(BinderTest, ATextThatTheProgramWritesRaisesNothing) {
+    field.text = "12";
+    field.put_value = 12.0F;
+    binder->Push();
+    EXPECT_EQ(field_widget->text(), "12");
+    EXPECT_EQ(field.put_value, 12.0F);
+    EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(BinderTest, LeavingAFieldRaisesItsLostFocusOnce) {
+    field_widget->setFocus();
+    QTest::keyClick(field_widget, Qt::Key_Tab);
+    EXPECT_TRUE(second_widget->hasFocus());
+    EXPECT_THAT(events, ElementsAre("lost focus"));
+}
+
+TEST_F(BinderTest, EnterInAFieldPressesNoButton) {
+    field_widget->setFocus();
+    QTest::keyClick(field_widget, Qt::Key_Return);
+    QTest::keyClick(field_widget, Qt::Key_Enter);
+    EXPECT_THAT(events, ElementsAre("enter", "enter"));
+}
+
+TEST_F(BinderTest, AMnemonicFindsTheEditedFieldLeft) {
+    field_widget->setFocus();
+    QTest::keyClicks(field_widget, "3");
+    QTest::keyClick(&window, Qt::Key_C, Qt::AltModifier);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return events.size() == 3; }, 2000));
+    EXPECT_THAT(events, ElementsAre("change", "lost focus", "click"));
+    EXPECT_FALSE(field_widget->hasFocus());
+}
+
+TEST_F(BinderTest, AMenuFindsTheEditedFieldLeft) {
+    field_widget->setFocus();
+    QTest::keyClicks(field_widget, "3");
+    action->trigger();
+    EXPECT_THAT(events, ElementsAre("change", "lost focus", "menu"));
+}
+
+TEST_F(BinderTest, AButtonThatLeavingTheFieldTakesAwayIsNotPressed) {
+    field.lost_focus = [this] { button.enabled = false; };
+    field_widget->setFocus();
+    button_widget->click();
+    EXPECT_THAT(events, IsEmpty());
+    EXPECT_FALSE(button_widget->isEnabled());
+}
+
+TEST_F(BinderTest, TheFocusReturnedToAFieldIsItsOwnNewVisit) {
+    field_widget->setFocus();
+    QTest::keyClicks(field_widget, "3");
+    button.click = [this] { binder->Set_Focus("txt_a"); };
+    button_widget->click();
+    events.clear();
+    EXPECT_TRUE(field_widget->hasFocus());
+    EXPECT_EQ(field_widget->selectedText(), "3");
+    second_widget->setFocus();
+    EXPECT_THAT(events, ElementsAre("lost focus"));
+}
+
+TEST_F(BinderTest, EnterOnAButtonIsAClick) {
+    button_widget->setFocus();
+    QTest::keyClick(button_widget, Qt::Key_Return);
+    EXPECT_THAT(events, ElementsAre("click"));
+}
+
+TEST_F(BinderTest, AnOptionIsClickedOnlyByAChange) {
+    QTest::mouseClick(options_widgets[1], Qt::LeftButton, {}, {5, options_widgets[1]->height() / 2});
+    QTest::mouseClick(options_widgets[1], Qt::LeftButton, {}, {5, options_widgets[1]->height() / 2});
+    QTest::mouseClick(options_widgets[0], Qt::LeftButton, {}, {5, options_widgets[0]->height() / 2});
+    EXPECT_THAT(events, ElementsAre("option 1", "option 0"));
+    EXPECT_TRUE(options[0].on);
+    EXPECT_FALSE(options[1].on);
+}
+
+TEST_F(BinderTest, WritesByTheProgramClickNeitherOptionsNorChecksNorBars) {
+    options[1].on = true;
+    check.on = true;
+    bar.value = 40;
+    binder->Push();
+    EXPECT_TRUE(options_widgets[1]->isChecked());
+    EXPECT_TRUE(check_widget->isChecked());
+    EXPECT_EQ(bar_widget->value(), 40);
+    options[1].on = false;
+    binder->Push();
+    EXPECT_FALSE(options_widgets[1]->isChecked()) << "a group may have no option on";
+    EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(BinderTest, ACheckBoxTellsItsState) {
+    check_widget->setFocus();
+    QTest::keyClick(check_widget, Qt::Key_Space);
+    EXPECT_TRUE(check.on);
+    EXPECT_THAT(events, ElementsAre("check"));
+}
+
+TEST_F(BinderTest, ABarChangesByKeysAndScrollsWhileItsThumbIsHeld) {
+    QTest::keyClick(bar_widget, Qt::Key_Right);
+    EXPECT_EQ(bar.value, 1);
+    EXPECT_THAT(events, ElementsAre("bar change"));
+    events.clear();
+    bar_widget->setSliderDown(true);
+    bar_widget->setSliderPosition(30);
+    EXPECT_EQ(bar.value, 30);
+    bar_widget->setSliderDown(false);
+    EXPECT_THAT(events, ElementsAre("bar scroll", "bar change"));
+}
+
+TEST_F(BinderTest, WhatIsNotThereYetIsDisabledAndSaysWhy) {
+    button.unavailable = "not there yet";
+    binder->Push();
+    EXPECT_FALSE(button_widget->isEnabled());
+    EXPECT_EQ(button_widget->toolTip(), "not there yet");
+}
+
+TEST_F(BinderTest, HidingAndDisablingReachTheWidgets) {
+    label.visible = false;
+    field.enabled = false;
+    item.enabled = false;
+    binder->Push();
+    EXPECT_FALSE(label_widget->isVisible());
+    EXPECT_FALSE(field_widget->isEnabled());
+    EXPECT_FALSE(action->isEnabled());
+}
+
+TEST_F(BinderTest, CaptionsAreShownAsPlainTextWithoutBlanksAtLineStarts) {
+    label.caption = "\r\n <b>one</b>\r two\n three";
+    binder->Push();
+    EXPECT_EQ(label_widget->text(), "<b>one</b>\ntwo\nthree");
+    EXPECT_EQ(label_widget->textFormat(), Qt::PlainText);
+}
+
+TEST_F(BinderTest, NamesThatStandOnOneSideOnlyAreRefusedWithAList) {
+    Label lost;
+    binder->Add("lbl_lost", lost);
+    Named<QLabel>("lbl_stray", &window);
+    try {
+        binder->Check_Names();
+        FAIL() << "nothing was refused";
+    } catch (const std::logic_error& refusal) {
+        EXPECT_THAT(refusal.what(), HasSubstr("lbl_lost"));
+        EXPECT_THAT(refusal.what(), HasSubstr("lbl_stray"));
+    }
+}
+
+}  // namespace
+}  // namespace kervol

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/window_test.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <cstdio>
+#include <cstdlib>
+
+#include "screens/launch_screens.h"
+#include "startup/launch.h"
+
+namespace kervol {
+
+WindowTest::WindowTest() {
+    port.Attach(screens);
+    Start_Fresh(*program);
+    Wire_Screens(screens);
+    kervol::Fill_Screens(screens);
+    program->model.StartingUp = false;
+    Every_Moment([this] { Use_Dialog(); });
+    watchdog_.setSingleShot(true);
+    watchdog_.callOnTimeout([] {
+        std::fputs("a window was left open\n", stderr);
+        std::_Exit(1);
+    });
+    watchdog_.start(30000);
+}
+
+WindowTest::~WindowTest() = default;
+
+void WindowTest::Every_Moment(const std::function<void()>& look) {
+    QTimer::singleShot(2, &watchdog_, [this, look] {
+        // First, since what follows may open a window and wait in it.
+        Every_Moment(look);
+        look();
+    });
+}
+
+void WindowTest::TearDown() {
+    EXPECT_TRUE(awaited_.empty()) << awaited_.size() << " awaited dialogs did not come";
+    port.Set_Pointer(Pointer::Default);
+}
+
+void WindowTest::Use_Dialog() {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || !dialog->isVisible() || dialog->property("used").toBool()) return;
+    dialog->setProperty("used", true);
+    if (awaited_.empty()) {
+        ADD_FAILURE() << "nobody awaited the dialog " << dialog->windowTitle().toStdString();
+        return dialog->reject();
+    }
+    const auto use = std::move(awaited_.front());
+    awaited_.pop_front();
+    use(*dialog);
+}
+
+void WindowTest::In(ScreenId screen, const std::function<void(FormWindow& form)>& act) {
+    QTimer::singleShot(0, [&] {
+        FormWindow& form = port.Form(screen);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+        act(form);
+        port.Hide_Screen(screen);
+    });
+    port.Show_Screen(screen, Modality::Modal);
+}
+
+void WindowTest::Click(QWidget& form, const char* name) {
+    QTest::mouseClick(&Find<QWidget>(form, name), Qt::LeftButton);
+}
+
+void WindowTest::Type(QWidget& form, const char* name, const QString& text) {
+    auto& field = Find<QLineEdit>(form, name);
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, text);
+}
+
+}  // namespace kervol

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Fixture of tests on real windows: the whole program over its port, and a hand that uses the dialogs it
+// opens.
+#pragma once
+
+#include <QApplication>
+#include <QDialog>
+#include <QTest>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <memory>
+
+#include "qt/qt_port.h"
+#include "screens/screens.h"
+
+#include <gtest/gtest.h>
+
+namespace kervol {
+
+class WindowTest : public ::testing::Test {
+  protected:
+    WindowTest();
+    ~WindowTest() override;
+    void TearDown() override;
+
+    /// Opens the screen modally, runs `act` on its window, closes it.
+    void In(ScreenId screen, const std::function<void(FormWindow& form)>& act);
+    /// What to do with the next dialog. One that nobody awaits fails the test and is closed.
+    void Await(std::function<void(QDialog& dialog)> use) { awaited_.push_back(std::move(use)); }
+
+    template <class Widget>
+    static Widget& Find(const QWidget& form, const char* name) {
+        auto* widget = form.findChild<Widget*>(name);
+        if (widget == nullptr) throw std::runtime_error(std::string("no widget ") + name);
+        return *widget;
+    }
+    static void Click(QWidget& form, const char* name);
+    static void Type(QWidget& form, const char* name, const QString& text);
+
+    /// Runs `look` again and again, also while a window that it opened waits.
+    void Every_Moment(const std::function<void()>& look);
+
+    QtPort port;
+    std::unique_ptr<Program> program = std::make_unique<Program>(port);
+    Screens screens{*program};
+
+  private:
+    void Use_Dialog();
+
+    std::deque<std::function<void(QDialog&)>> awaited_;
+    QTimer watchdog_;
+};
+
+inline constexpr ScreenId kScreensWithWindow[] = {
+    ScreenId::frm_Title,    ScreenId::frm_Disclaimer, ScreenId::frm_User, ScreenId::frm_HomeScreen,
+    ScreenId::frm_Inputnew, ScreenId::frm_About,      ScreenId::frm_Quit,
+};
+
+}  // namespace kervol

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/screens_fixture.h"
+
+#include <algorithm>
+
+#include "core/fault.h"
+#include "core/geometry.h"
+#include "screens/launch_screens.h"
+#include "startup/launch.h"
+
+namespace kervol {
+
+std::string_view Screen_Name(ScreenId screen) {
+    switch (screen) {
+        case ScreenId::frm_Title:
+            return "frm_Title";
+        case ScreenId::frm_Disclaimer:
+            return "frm_Disclaimer";
+        case ScreenId::frm_User:
+            return "frm_User";
+        case ScreenId::frm_HomeScreen:
+            return "frm_HomeScreen";
+        case ScreenId::frm_Inputnew:
+            return "frm_Inputnew";
+        case ScreenId::frm_Animate:
+            return "frm_Animate";
+        case ScreenId::frm_About:
+            return "frm_About";
+        case ScreenId::frm_Quit:
+            return "frm_Quit";
+    }
+    return "?";
+}
+
+Answer ScreenPort::Show_Message(const MessageBox& box) {
+    trace.push_back("box");
+    answer = [this](const MessageBox&) {
+        if (answers.empty()) return Answer::None;
+        const Answer given = answers.front();
+        answers.pop_front();
+        return given;
+    };
+    return RecordingPort::Show_Message(box);
+}
+
+void ScreenPort::Show_Screen(ScreenId screen, Modality modality) {
+    RecordingPort::Show_Screen(screen, modality);
+    trace.push_back("show " + std::string(Screen_Name(screen)) +
+                    (modality == Modality::Modal ? " modal" : " modeless"));
+    if (opening[screen]) opening[screen]();
+    if (all != nullptr) Activate_Screen(*all, screen);
+    if (script[screen]) script[screen]();
+}
+
+void ScreenPort::Hide_Screen(ScreenId screen) {
+    RecordingPort::Hide_Screen(screen);
+    trace.push_back("hide " + std::string(Screen_Name(screen)));
+}
+
+void ScreenPort::Set_Focus(ScreenId screen, std::string_view control) {
+    RecordingPort::Set_Focus(screen, control);
+    trace.push_back("focus " + std::string(Screen_Name(screen)) + "." + std::string(control));
+}
+
+void ScreenPort::Fill_Screens() {
+    RecordingPort::Fill_Screens();
+    const bool guarded = all != nullptr && all->program.model.Loading;
+    trace.push_back(guarded ? "fill while loading" : "fill");
+    if (all != nullptr) kervol::Fill_Screens(*all);
+}
+
+std::optional<std::string> ScreenPort::Ask_File_To_Open(const FileDialog& dialog) {
+    dialogs.push_back(dialog);
+    trace.push_back("open dialog");
+    if (files.empty()) return std::nullopt;
+    const auto name = files.front();
+    files.pop_front();
+    return name;
+}
+
+std::optional<std::string> ScreenPort::Ask_File_To_Save(const FileDialog& dialog) {
+    const auto name = Ask_File_To_Open(dialog);
+    trace.back() = "save dialog";
+    return name;
+}
+
+ScreensTest::ScreensTest()
+    : program(std::make_unique<Program>(port)),
+      screens(std::make_unique<Screens>(*program)),
+      model(program->model),
+      tables(program->tables),
+      input(screens->frm_Inputnew),
+      animate(screens->frm_Animate),
+      home(screens->frm_HomeScreen) {
+    Start_Fresh(*program);
+    Wire_Screens(*screens);
+    input.Picture1 = &picture;
+    animate.Picture1 = &animate_picture;
+    kervol::Fill_Screens(*screens);
+    port.all = screens.get();
+    model.StartingUp = false;
+}
+
+void ScreensTest::TearDown() {
+    while (Boxes_Left() > 0) ADD_FAILURE() << "A box that the test did not expect: " << Take_Box().text;
+    EXPECT_TRUE(port.answers.empty()) << "an answer that no box asked for";
+    EXPECT_TRUE(port.files.empty()) << "a file name that no dialog asked for";
+}
+
+void ScreensTest::Expect_Box(std::string_view text, Icon icon, Buttons buttons) {
+    const MessageBox box = Take_Box();
+    EXPECT_EQ(box.text, text);
+    EXPECT_EQ(box.icon, icon);
+    EXPECT_EQ(box.buttons, buttons);
+}
+
+void ScreensTest::Expect_Fault(std::int32_t number, std::string_view procedure) {
+    const std::string heading = "Error " + std::to_string(number) + "   (" +
+                                std::string(Fault_Description(number)) + ")  has occurred in " +
+                                std::string(procedure) + "\r\r";
+    const MessageBox box = Take_Box();
+    EXPECT_EQ(box.text.substr(0, heading.size()), heading);
+    EXPECT_EQ(box.buttons, Buttons::OK);
+}
+
+MessageBox ScreensTest::Take_Box() {
+    if (Boxes_Left() > 0) return port.messages[taken_++].box;
+    ADD_FAILURE() << "A box that the test expected was not shown";
+    return {};
+}
+
+void ScreensTest::Open_Input_In_Mode(std::int16_t mode) {
+    model.CalcMode = mode;
+    Open_Input();
+}
+
+void ScreensTest::Calculate_In_Mode(std::int16_t mode) {
+    Open_Input_In_Mode(mode);
+    input.cmd_Calc.click();
+}
+
+void ScreensTest::Type(TextField& field, std::string_view text) {
+    field.text = text;
+    field.put_value.reset();
+    if (field.change) field.change();
+}
+
+void ScreensTest::Edit(TextField& field, std::string_view text) {
+    Type(field, text);
+    field.lost_focus();
+}
+
+void ScreensTest::Move_Bar(int step) {
+    input.hsc_step.value = step;
+    input.hsc_step.change();
+}
+
+std::vector<std::string> ScreensTest::Initial_Texts(std::size_t count) const {
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < count; ++i) texts.push_back(input.txt_Initial.at(i).text);
+    return texts;
+}
+
+std::string ScreensTest::Outputs() const {
+    std::string on;
+    const auto add = [&](const Button& button, const char* name) {
+        if (button.enabled) on += (on.empty() ? "" : " ") + std::string(name);
+    };
+    add(input.cmd_Next, "Next");
+    add(input.cmd_Step, "Step");
+    add(input.cmd_Animate, "Animate");
+    add(input.cmd_Reset, "Reset");
+    add(input.cmd_Print, "Print");
+    add(input.cmd_Draw, "ReDraw");
+    return on;
+}
+
+std::vector<Drawn> ScreensTest::Standing() const {
+    const auto last = std::find_if(picture.drawn.rbegin(), picture.drawn.rend(),
+                                   [](const Drawn& drawn) { return drawn.kind == Drawn::Kind::Clear; });
+    return {last.base(), picture.drawn.end()};
+}
+
+void ScreensTest::Put_Limited_Linkage() {
+    // A stands more than 6 from O4 in between, and links 3 and 4 reach no further.
+    model.Link2 = 4;
+    model.Link3 = model.Link4 = 3;
+    model.Link1 = model.O4X = model.O4LocalX = 5;
+    model.O4Y = model.O4LocalY = 0;
+    model.LinkO4D = 1;
+    model.Link5 = model.Link6 = 10;
+    model.O6X = model.O6LocalX = 17;
+    model.O6Y = model.O6LocalY = 5;
+    Derive_Geometry(model);
+    kervol::Fill_Screens(*screens);
+}
+
+void ScreensTest::Put_Imported_Drive(std::int16_t mode) {
+    model.CalcMode = mode;
+    model.NumSteps = 2;
+    model.DriveScale = 1;
+    model.DriveFileName = "drive.sva";
+    for (int row = 0; row <= 2; ++row) {
+        tables.DriveTheta(row) = static_cast<float>(45 * row);
+        tables.Omega(row, 0) = 10;
+        tables.Alpha(row, 0) = 3;
+    }
+}
+
+}  // namespace kervol

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Fixture of tests that use the screens as a person does, over records: a fresh program, its screens wired, a
+// recording port that opens screens as a toolkit would. A box that no test expected fails it.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "headless/recording_picture.h"
+#include "headless/recording_port.h"
+#include "screens/screens.h"
+
+#include <gtest/gtest.h>
+
+namespace kervol {
+
+/// Modes or counts to try one after another.
+using Int16List = std::initializer_list<std::int16_t>;
+
+std::string_view Screen_Name(ScreenId screen);
+
+/// Keeps the order of what happens, activates a screen that opens and lets a script use it while it is open.
+class ScreenPort : public RecordingPort {
+  public:
+    Answer Show_Message(const MessageBox& box) override;
+    void Show_Screen(ScreenId screen, Modality modality) override;
+    void Hide_Screen(ScreenId screen) override;
+    void Set_Focus(ScreenId screen, std::string_view control) override;
+    void Fill_Screens() override;
+    std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) override;
+    std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;
+
+    Screens* all = nullptr;
+    std::vector<std::string> trace;                     ///< "show frm_User modal", "hide frm_User", ...
+    std::map<ScreenId, std::function<void()>> opening;  ///< runs before the screen is filled
+    std::map<ScreenId, std::function<void()>> script;   ///< what a person does on it while it is open
+    std::deque<std::optional<std::string>> files;       ///< answers of the next file dialogs; then Cancel
+    std::deque<Answer> answers;                         ///< answers of the next boxes; then their preset
+};
+
+class ScreensTest : public ::testing::Test {
+  protected:
+    /// As a run without a file stands on the Home screen.
+    ScreensTest();
+    void TearDown() override;
+
+    /// The next box that was shown must be this one.
+    void Expect_Box(std::string_view text, Icon icon, Buttons buttons = Buttons::OK);
+    /// A refused entry: the next box must be this warning.
+    void Expect_Warning(std::string_view text) { Expect_Box(text, Icon::Exclamation); }
+    /// The next box must report this fault; only the heading is compared.
+    void Expect_Fault(std::int32_t number, std::string_view procedure);
+    MessageBox Take_Box();
+    std::size_t Boxes_Left() const { return port.messages.size() - taken_; }
+
+    void Open_Input() { port.Show_Screen(ScreenId::frm_Inputnew, Modality::Modal); }
+    /// Opens the Input screen in a mode of the drive.
+    void Open_Input_In_Mode(std::int16_t mode);
+    /// Opens the Input screen and calculates.
+    void Calculate_In_Mode(std::int16_t mode);
+
+    /// Types into a field, one change for the whole text, and stays in it.
+    static void Type(TextField& field, std::string_view text);
+    /// Types into a field and leaves it.
+    static void Edit(TextField& field, std::string_view text);
+    /// Chooses an option of a group that is not on yet.
+    template <std::size_t count>
+    static void Choose(std::array<OptionButton, count>& group, std::size_t index) {
+        ASSERT_FALSE(group.at(index).on) << "a click on the chosen option does nothing";
+        for (OptionButton& option : group) option.on = false;
+        group.at(index).on = true;
+        group.at(index).click();
+    }
+    /// Moves the step bar.
+    void Move_Bar(int step);
+
+    TextField& Link(LinkField field) { return input.txt_Linkout.at(field); }
+    TextField& Initial(std::size_t field) { return input.txt_Initial.at(field); }
+    /// Texts of the first fields of the drive.
+    std::vector<std::string> Initial_Texts(std::size_t count = 3) const;
+    /// Which of the output buttons are on: of Next, Step, Animate, Reset, Print, ReDraw.
+    std::string Outputs() const;
+
+    /// What was drawn on the Input screen behind its last clearing.
+    std::vector<Drawn> Standing() const;
+    bool Picture_Is_Clear() const { return Standing().empty(); }
+
+    /// Stage 1 turns from 0 to 82.8 and from 277.2 to 360 degrees only, and is non-Grashof.
+    void Put_Limited_Linkage();
+    /// Two arms of 90 degrees as an imported drive of three rows.
+    void Put_Imported_Drive(std::int16_t mode);
+
+    ScreenPort port;
+    std::unique_ptr<Program> program;
+    std::unique_ptr<Screens> screens;
+    LinkageModel& model;
+    ResultTables& tables;
+    InputScreen& input;
+    AnimateScreen& animate;
+    HomeScreen& home;
+    RecordingPicture picture, animate_picture;
+
+  private:
+    std::size_t taken_ = 0;
+};
+
+}  // namespace kervol
