@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QScreen>
 #include <stdexcept>
 
@@ -127,6 +128,8 @@ void QtPort::Open_Window(ScreenId screen, Modality modality) {
     window.setAttribute(Qt::WA_KeyboardFocusChange);
     window.raise();
     window.activateWindow();
+    // A window that becomes active passes the focus to its first field without the field noticing.
+    if (auto* edit = qobject_cast<QLineEdit*>(window.focusWidget())) edit->selectAll();
 }
 
 void QtPort::Wait_For(ScreenId screen) {
