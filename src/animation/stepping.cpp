@@ -2,6 +2,8 @@
 #include "animation/stepping.h"
 
 #include <cmath>
+#include <string>
+#include <utility>
 
 #include "animation/linkage_drawing.h"
 #include "animation/surroundings.h"
@@ -34,14 +36,21 @@ void Set_Radii(AnimationState& state) {
     state.RadiusPivot = Single(0.03 * size);
 }
 
+void Put_Step_Texts(LinkageView& view, const char* label, std::string number, const char* unit) {
+    view.lbl_StepLabel.caption = label;
+    view.lbl_StepNumber.caption = std::move(number);
+    view.lbl_StepUnit.caption = unit;
+}
+
 /// Angle of the crank in the modes that are told by it, else the time. A mode that does not exist, as a file
-/// may hold it, leaves the text.
+/// may hold it, leaves the texts.
 void Put_Step_Number(const Program& program, LinkageView& view, std::int16_t step) {
     const LinkageModel& model = program.model;
     if (model.CalcMode == 1 || model.CalcMode == 3)
-        view.lbl_StepNumber.caption = FNRoundStr(program.tables.Theta(step, 0), 1);
+        Put_Step_Texts(view, "Theta2", FNRoundStr(program.tables.Theta(step, 0), 1), "deg");
     if (model.CalcMode == 2 || model.CalcMode == 4 || model.CalcMode == 5)
-        view.lbl_StepNumber.caption = FNRoundStr(Single(step * double(model.TimeStep) + model.TimeStart), 2);
+        Put_Step_Texts(view, "Time", FNRoundStr(Single(step * double(model.TimeStep) + model.TimeStart), 2),
+                       "sec");
 }
 
 void Draw_Coupler_Curves(Program& program, Picture& picture) {
@@ -106,7 +115,7 @@ void Step_Setup(Program& program, LinkageView& view, const AnimationSettings& se
         busy = true;
         view.hsc_step.maximum = model.NumSteps;
         const auto draw = [&] { Step(program, view, settings, current); };
-        const auto put_bar = [&] { view.hsc_step.value = current; };
+        const auto put_bar = [&] { Put_Value(view.hsc_step, current); };
         if (current > model.NumSteps || model.CalcMode == 1) current = 0;
         switch (model.CalcMode) {
             case 3:
@@ -130,7 +139,7 @@ void Step_Setup(Program& program, LinkageView& view, const AnimationSettings& se
 void Step_Reset(Program& program, LinkageView& view, const AnimationSettings& settings) {
     Procedure(program, "Step_Reset", [&] {
         Step(program, view, settings, 0);
-        view.hsc_step.value = 0;
+        Put_Value(view.hsc_step, 0);
         program.animation.CurrentStep = 1;
     });
 }

@@ -60,6 +60,13 @@ struct ScrollBar : Control {
     Event change, scroll;
 };
 
+/// A write by the program raises the change as a person's would.
+inline void Put_Value(ScrollBar& bar, int value) {
+    if (bar.value == value) return;
+    bar.value = value;
+    if (bar.change) bar.change();
+}
+
 struct ComboBox : Control {
     std::string text;
     std::vector<std::string> items;

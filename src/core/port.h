@@ -72,6 +72,8 @@ class Port {
     virtual void Set_Focus(ScreenId screen, std::string_view control) = 0;
     /// The model was read or replaced: the screens' fields take it.
     virtual void Fill_Screens() = 0;
+    /// A stage was classified: the panels that show the classes take the model's texts.
+    virtual void Show_Classes() = 0;
     /// Ends the run of the program.
     virtual void End_Program() = 0;
 

@@ -23,6 +23,7 @@ class RecordingPort : public Port {
     void Hide_Screen(ScreenId screen) override;
     void Set_Focus(ScreenId screen, std::string_view control) override;
     void Fill_Screens() override { ++fills; }
+    void Show_Classes() override {}
     void End_Program() override { ended = true; }
     std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) override;
     std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;

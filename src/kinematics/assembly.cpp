@@ -76,6 +76,7 @@ void Classify_Stage1(Program& program) {
     LinkageModel& model = program.model;
     Procedure(program, "Classify_Stage", [&] {
         Classify_Stage(model, model.Link2, model.Link3, model.Link4, model.Link1, 0, model.Stage1Class);
+        program.port.Show_Classes();
     });
 }
 
@@ -85,6 +86,7 @@ void Classify_Stage2(Program& program) {
     Procedure(program, "Classify_Stage", [&] {
         Classify_Stage(model, model.LinkO4D, model.Link5, model.Link6, model.O4O6Length, 1,
                        model.Stage2Class);
+        program.port.Show_Classes();
     });
 }
 

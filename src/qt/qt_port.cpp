@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "screens/control_lists.h"
+#include "screens/input_events.h"
 #include "screens/launch_screens.h"
 
 namespace kervol {
@@ -177,6 +178,10 @@ void QtPort::Set_Focus(ScreenId screen, std::string_view control) {
 void QtPort::Fill_Screens() {
     kervol::Fill_Screens(*screens_);
     Push_All();
+}
+
+void QtPort::Show_Classes() {
+    kervol::Show_Classes(*screens_);
 }
 
 void QtPort::End_Program() {

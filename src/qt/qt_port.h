@@ -31,6 +31,7 @@ class QtPort : public Port {
     void Hide_Screen(ScreenId screen) override;
     void Set_Focus(ScreenId screen, std::string_view control) override;
     void Fill_Screens() override;
+    void Show_Classes() override;
     void End_Program() override;
     std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) override;
     std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;

@@ -59,22 +59,6 @@ void hsc_step_Change(Screens& screens) {
     if (!screens.frm_Inputnew.Stepping) hsc_step_Scroll(screens);
 }
 
-void Put_Step_Bar(Screens& screens, int value) {
-    ScrollBar& bar = screens.frm_Inputnew.hsc_step;
-    if (bar.value == value) return;
-    bar.value = value;
-    hsc_step_Change(screens);
-}
-
-/// The classification in words, and the time steps, which a linkage that cannot turn does not have.
-void Show_Classes(Screens& screens) {
-    const LinkageModel& model = screens.program.model;
-    InputScreen& screen = screens.frm_Inputnew;
-    screen.Pnl_Grashof[0].caption = model.StageText(0);
-    screen.Pnl_Grashof[1].caption = model.StageText(1);
-    if (model.Stage1Class != "N") screen.opt_Calctype[2].enabled = true;
-}
-
 void Run_Mode(Screens& screens, Answer& response) {
     const std::int16_t mode = screens.program.model.CalcMode;
     InputScreen& screen = screens.frm_Inputnew;
@@ -109,10 +93,9 @@ void Close_Calculation(Screens& screens) {
 void cmd_Calc_Click(Screens& screens) {
     Answer response = Answer::None;
     screens.program.port.Set_Pointer(Pointer::Busy);
-    Put_Step_Bar(screens, 0);
+    Put_Value(screens.frm_Inputnew.hsc_step, 0);
     screens.program.model.DataCalculated = false;
     Run_Mode(screens, response);
-    Show_Classes(screens);
     if (response != Answer::Abort) Close_Calculation(screens);
     screens.program.port.Set_Pointer(Pointer::Default);
 }
@@ -127,7 +110,6 @@ void cmd_Draw_Click(Screens& screens) {
     screen.opt_Calctype[2].enabled = model.Stage1Class != "N";
     Answer response = Answer::None;
     Run_Sweep(program, model.CalcMode, response);
-    Show_Classes(screens);
     Draw_First_Position(screens);
     for (Button* button : {&screen.cmd_Step, &screen.cmd_Reset, &screen.cmd_Next, &screen.cmd_Print})
         button->enabled = true;
@@ -234,6 +216,14 @@ void Disable_Outputs(Screens& screens) {
     Clear_Picture(screens.frm_Inputnew);
 }
 
+void Show_Classes(Screens& screens) {
+    const LinkageModel& model = screens.program.model;
+    InputScreen& screen = screens.frm_Inputnew;
+    screen.Pnl_Grashof[0].caption = model.StageText(0);
+    screen.Pnl_Grashof[1].caption = model.StageText(1);
+    if (model.Stage1Class != "N") screen.opt_Calctype[2].enabled = true;
+}
+
 void Enable_Outputs(Screens& screens) {
     screens.program.model.DataCalculated = true;
     for (Button* button : Output_Buttons(screens.frm_Inputnew)) button->enabled = true;
@@ -251,7 +241,7 @@ void Input_Form_Activate(Screens& screens) {
     screen.cmd_Print.enabled = true;
     model.ShowCoupler = "Y";
     screen.hsc_step.maximum = model.NumSteps;
-    screen.hsc_step.value = 0;
+    Put_Value(screen.hsc_step, 0);
     cmd_Reset_Click(screens);
     screens.frm_Animate.txt_Cycles.text = std::to_string(model.AnimCycles);
     screen.lbl_Header.caption = Put_Header(model);

@@ -78,6 +78,7 @@ void Fill_Screens(Screens& screens) {
     Put_OpenCross(model, screens.frm_Inputnew);
     Put_OpenCross(model, screens.frm_Animate);
     Fill_Settings(model, screens.frm_Animate);
+    screens.frm_Inputnew.txt_header.text = screens.frm_Animate.txt_header.text = model.ModelTitle;
     auto& picks = screens.frm_HomeScreen.mnu_pick;
     for (MenuItem& pick : picks) pick.checked = false;
     const std::size_t system = model.UnitSystem <= 0 ? 1 : static_cast<std::size_t>(model.UnitSystem);

@@ -98,6 +98,8 @@ TEST_F(Stepping, TellsTheCrankAngleInModesOfAngles) {
         tables.Theta(0, 0) = -12.5;
         Show(0);
         EXPECT_EQ(view.lbl_StepNumber.caption, "-12.5");
+        EXPECT_EQ(view.lbl_StepLabel.caption, "Theta2");
+        EXPECT_EQ(view.lbl_StepUnit.caption, "deg");
     }
 }
 
@@ -111,6 +113,8 @@ TEST_F(Stepping, TellsTheTimeInModesOfTime) {
         EXPECT_EQ(view.lbl_StepNumber.caption, "1.75");
         Show(0);
         EXPECT_EQ(view.lbl_StepNumber.caption, "1.00");
+        EXPECT_EQ(view.lbl_StepLabel.caption, "Time");
+        EXPECT_EQ(view.lbl_StepUnit.caption, "sec");
     }
 }
 
@@ -266,6 +270,16 @@ TEST_F(Stepping, ResetDrawsStep0AndGoesOnWith1) {
     EXPECT_EQ(view.hsc_step.value, 0);
     EXPECT_EQ(program->animation.CurrentStep, 1);
     EXPECT_EQ(view.lbl_StepNumber.caption, "1,230.3");
+}
+
+TEST_F(Stepping, ResetRaisesTheChangeOfABarThatMoves) {
+    int changes = 0;
+    view.hsc_step.change = [&] { ++changes; };
+    Step_Reset(*program, view, settings);
+    EXPECT_EQ(changes, 0);
+    view.hsc_step.value = 3;
+    Step_Reset(*program, view, settings);
+    EXPECT_EQ(changes, 1);
 }
 
 TEST_F(Stepping, ResetLeavesEarlierPositionsToStepMode) {

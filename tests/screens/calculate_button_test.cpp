@@ -336,6 +336,17 @@ TEST_F(CalculateButton, AnImportedDriveSkipsItsClosingOnlyIfAbortIsTheLastAnswer
     EXPECT_TRUE(model.SomeStepFailed);
 }
 
+TEST_F(CalculateButton, TheClassStandsOnTheScreenBeforeAFailureIsAskedOf) {
+    Put_Limited_Linkage();
+    Open_Input_In_Mode(3);
+    input.Pnl_Grashof[0].caption.clear();
+    std::string shown;
+    port.while_box = [&] { shown = input.Pnl_Grashof[0].caption; };
+    input.cmd_Calc.click();
+    Take_Box();
+    EXPECT_EQ(shown, "Stage  1  is Non - Grashof");
+}
+
 TEST_F(CalculateButton, IgnoredFailuresAreAskedOfOnceAndTheRestIsCalculated) {
     Put_Limited_Linkage();
     Open_Input_In_Mode(3);

@@ -58,7 +58,9 @@ class HomeFiles : public ScreensTest {
 TEST_F(HomeFiles, NewWithNothingCalculatedAsksOnce) {
     model.ModelTitle = "mine";
     model.Link2 = 3;
+    input.txt_header.text = "mine";
     home.mnu_New.click();
+    EXPECT_EQ(input.txt_header.text, "");
     Expect_Box(kReset, Icon::None, Buttons::OKCancel);
     EXPECT_EQ(model.Link2, 2);
     EXPECT_EQ(model.ModelTitle, "");

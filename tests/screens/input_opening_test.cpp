@@ -302,6 +302,7 @@ TEST_F(FieldEvents, AFaultEndsTheEventAndNotTheProgram) {
 TEST_F(FieldEvents, AutoscaleOffBeforeAnyWindowIsReported) {
     program->animation.PlotMin = program->animation.PlotMax = 0;
     input.chk_autoscale.on = false;
+    input.hsc_step.value = 0;
     input.cmd_Reset.click();
     Expect_Fault(5, "Animate_Setup");
 }

@@ -5,6 +5,7 @@
 
 #include "core/fault.h"
 #include "core/geometry.h"
+#include "screens/input_events.h"
 #include "screens/launch_screens.h"
 #include "startup/launch.h"
 
@@ -34,6 +35,7 @@ std::string_view Screen_Name(ScreenId screen) {
 
 Answer ScreenPort::Show_Message(const MessageBox& box) {
     trace.push_back("box");
+    if (while_box) while_box();
     answer = [this](const MessageBox&) {
         if (answers.empty()) return Answer::None;
         const Answer given = answers.front();
@@ -67,6 +69,10 @@ void ScreenPort::Fill_Screens() {
     const bool guarded = all != nullptr && all->program.model.Loading;
     trace.push_back(guarded ? "fill while loading" : "fill");
     if (all != nullptr) kervol::Fill_Screens(*all);
+}
+
+void ScreenPort::Show_Classes() {
+    if (all != nullptr) kervol::Show_Classes(*all);
 }
 
 std::optional<std::string> ScreenPort::Ask_File_To_Open(const FileDialog& dialog) {

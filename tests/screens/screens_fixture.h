@@ -34,6 +34,7 @@ class ScreenPort : public RecordingPort {
     void Hide_Screen(ScreenId screen) override;
     void Set_Focus(ScreenId screen, std::string_view control) override;
     void Fill_Screens() override;
+    void Show_Classes() override;
     std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) override;
     std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;
 
@@ -41,6 +42,7 @@ class ScreenPort : public RecordingPort {
     std::vector<std::string> trace;                     ///< "show frm_User modal", "hide frm_User", ...
     std::map<ScreenId, std::function<void()>> opening;  ///< runs before the screen is filled
     std::map<ScreenId, std::function<void()>> script;   ///< what a person does on it while it is open
+    std::function<void()> while_box;                    ///< runs while a box stands
     std::deque<std::optional<std::string>> files;       ///< answers of the next file dialogs; then Cancel
     std::deque<Answer> answers;                         ///< answers of the next boxes; then their preset
 };
