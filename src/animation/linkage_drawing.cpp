@@ -56,14 +56,14 @@ class PositionDrawing {
 
     /// Each bar once more as two sides that run through the link's centre of gravity.
     void Draw_Centres_Of_Gravity() {
-        const bool watt = program_.model.LinkageType == "W";
+        const LinkageModel& model = program_.model;
         Draw_Bar_Through(Centre_Of_Gravity(2, 0, {0, 0}), O2_, A_);
-        Draw_Bar_Through(Centre_Of_Gravity(4, 2, {program_.model.Link1, 0}), O4_, B_);
+        Draw_Bar_Through(Centre_Of_Gravity(4, 2, {model.Link1, 0}), O4_, B_);
         const UserPoint G3 = Centre_Of_Gravity(3, 1, Local(0));
         pen_.Set_Point(A_, Link_Colour());
         Draw_Bar_Through(G3, A_, B_);
-        Draw_Bar_Through(Centre_Of_Gravity(5, 4, Local(3)), watt ? D_ : C_, E_);
-        const LinkageModel& model = program_.model;
+        if (model.LinkageType == "W") Draw_Bar_Through(Centre_Of_Gravity(5, 4, Local(3)), D_, E_);
+        if (model.LinkageType == "S") Draw_Bar_Through(Centre_Of_Gravity(5, 4, Local(3)), C_, E_);
         Draw_Bar_Through(Centre_Of_Gravity(6, 5, {Single(double(model.Link1) + model.O4O6X), model.O4O6Y}),
                          O6_, E_);
     }

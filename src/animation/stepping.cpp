@@ -49,14 +49,7 @@ void Put_Step_Number(const Program& program, LinkageView& view, std::int16_t ste
     if (model.CalcMode == 1 || model.CalcMode == 3)
         Put_Step_Texts(view, "Theta2", FNRoundStr(program.tables.Theta(step, 0), 1), "deg");
     if (model.CalcMode == 2 || model.CalcMode == 4 || model.CalcMode == 5)
-        Put_Step_Texts(view, "Time", FNRoundStr(Single(step * double(model.TimeStep) + model.TimeStart), 2),
-                       "sec");
-}
-
-void Draw_Coupler_Curves(Program& program, Picture& picture) {
-    if (program.model.ShowCoupler != "Y") return;
-    DrawCouplerCurve(program, 0, picture);
-    DrawCouplerCurve(program, 1, picture);
+        Put_Step_Texts(view, "Time", FNRoundStr(step * double(model.TimeStep) + model.TimeStart, 2), "sec");
 }
 
 }  // namespace

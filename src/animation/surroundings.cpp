@@ -51,7 +51,7 @@ void Autoscale6(Program& program) {
 
         const auto& start = program.tables.PointPos(0, 2);
         state.PlotMin = state.PlotMax = start(0);
-        Widen(state, start(1));
+        if (model.NumSteps >= 0) Widen(state, start(1));
         for (int point = hide_links == "Y" ? 2 : 0; point <= 5; ++point) {
             for (std::int16_t step = 0; step <= model.NumSteps; ++step) {
                 const UserPoint position = User_Position(program, step, point);
@@ -119,6 +119,12 @@ void DrawCouplerCurve(Program& program, int which, Picture& picture) {
             if (Has_Position(program, step, point)) pen.Line_To(path, cyan);
         }
     });
+}
+
+void Draw_Coupler_Curves(Program& program, Picture& picture) {
+    if (program.model.ShowCoupler != "Y") return;
+    DrawCouplerCurve(program, 0, picture);
+    DrawCouplerCurve(program, 1, picture);
 }
 
 }  // namespace kervol

@@ -20,4 +20,7 @@ void Axes(Program& program, Picture& picture);
 /// Path of coupler point 1 for `which` 0, of coupler point 2 above. Rows that did not assemble leave a gap.
 void DrawCouplerCurve(Program& program, int which, Picture& picture);
 
+/// Both paths, where the model shows them.
+void Draw_Coupler_Curves(Program& program, Picture& picture);
+
 }  // namespace kervol

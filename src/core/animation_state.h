@@ -24,6 +24,7 @@ struct AnimationState {
     float RadiusCoupler = 0;
     float RadiusPivot = 0;
     Colour LinkColour{};  ///< of the next drawing pass
+    bool EndRun = false;  ///< the person wants the run to end
     float PathX = 0;      ///< last point of a coupler path
     float PathY = 0;
 };

@@ -69,4 +69,8 @@ inline std::int16_t Int16(double value) {
     return Rounded<std::int16_t>(value);
 }
 
+inline std::int32_t Int32(double value) {
+    return Rounded<std::int32_t>(value);
+}
+
 }  // namespace kervol

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/path_text.h"
 
+#include <filesystem>
+
 namespace kervol {
 namespace {
 
@@ -23,6 +25,15 @@ std::string StripFilename(std::string_view path) {
     const std::string_view stem = path.substr(0, point);
     const std::size_t separator = stem.find_last_of("\\/");
     return std::string(separator == std::string_view::npos ? stem : stem.substr(separator + 1));
+}
+
+std::string Long_Path_Of(const std::string& path) {
+    std::error_code error;
+    const auto whole = std::filesystem::absolute(path, error);
+    if (error || !std::filesystem::exists(whole, error)) return {};
+    // Behind a link ".." leads elsewhere than its text says.
+    const auto plain = whole.lexically_normal();
+    return std::filesystem::equivalent(whole, plain, error) ? plain.string() : whole.string();
 }
 
 }  // namespace kervol

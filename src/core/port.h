@@ -65,7 +65,8 @@ class Port {
     /// Shows the box and waits for its answer.
     virtual Answer Show_Message(const MessageBox& box) = 0;
     virtual void Set_Pointer(Pointer pointer) = 0;
-    /// Opens a screen; a modal one returns when it closes.
+    /// Opens a screen; a modal one returns when it closes, or at once where it takes the place of the front
+    /// screen, which has just been hidden.
     virtual void Show_Screen(ScreenId screen, Modality modality) = 0;
     virtual void Hide_Screen(ScreenId screen) = 0;
     /// Moves the focus to the control of that name.
@@ -80,6 +81,10 @@ class Port {
     /// The chosen file; nothing after Cancel. The save dialog asks before a file is overwritten.
     virtual std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) = 0;
     virtual std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) = 0;
+    /// A run of the animation begins or ends. While it goes on all that a person can do is end it.
+    virtual void Set_Running(bool running) = 0;
+    /// Shows what was drawn and holds it for this time; false once the person wants the run to end.
+    virtual bool Hold_Picture(double milliseconds) = 0;
     /// Prints an image of the screen.
     virtual void Print_Screen(ScreenId screen) = 0;
     /// The account's full name, else its login name.

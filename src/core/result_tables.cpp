@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/result_tables.h"
 
+#include <algorithm>
+
 #include "core/program.h"
 #include "core/report.h"
 
@@ -9,7 +11,9 @@ namespace kervol {
 void Clear_Tables(Program& program) {
     Procedure(program, "Clear_Tables", [&] {
         ResultTables& tables = program.tables;
-        for (int step = 0; step <= program.model.NumSteps; ++step) {
+        // A count that was refused stays in the model.
+        const int last = std::min<int>(program.model.NumSteps, MaxSteps);
+        for (int step = 0; step <= last; ++step) {
             tables.Theta(step).Fill(0);
             tables.Omega(step).Fill(0);
             tables.Alpha(step).Fill(0);

@@ -96,9 +96,9 @@ ReadEnd Readfile(Program& program, ValueReader& file) {
         {
             const LoadingScope loading(model);
             Rebuild(program);
-            program.port.Fill_Screens();
             model.DataCalculated = false;
             model.DynamicsCalculated = false;
+            program.port.Fill_Screens();
         }
         program.port.Set_Pointer(Pointer::Default);
         if (model.StartingUp) return;

@@ -3,7 +3,8 @@
 
 #include <array>
 #include <ctime>
-#include <filesystem>
+
+#include "core/path_text.h"
 
 namespace kervol {
 namespace {
@@ -43,11 +44,13 @@ std::optional<std::string> RecordingPort::Ask_File_To_Save(const FileDialog& dia
     return Ask_File_To_Open(dialog);
 }
 
+bool RecordingPort::Hold_Picture(double milliseconds) {
+    holds.push_back(milliseconds);
+    return !goes_on || goes_on();
+}
+
 std::string RecordingPort::Long_Path(const std::string& path) {
-    // The name that was given stays, also where it is a link.
-    std::error_code error;
-    const auto long_path = std::filesystem::absolute(path, error).lexically_normal();
-    return !error && std::filesystem::exists(long_path, error) ? long_path.string() : std::string();
+    return Long_Path_Of(path);
 }
 
 DateAndTime RecordingPort::Short_Date_And_Time() {

@@ -27,6 +27,8 @@ class RecordingPort : public Port {
     void End_Program() override { ended = true; }
     std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) override;
     std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;
+    void Set_Running(bool running) override { runs.push_back(running); }
+    bool Hold_Picture(double milliseconds) override;
     void Print_Screen(ScreenId screen) override { printed.push_back(screen); }
     std::string User_Name() override { return user_name; }
     std::string Long_Path(const std::string& path) override;
@@ -37,6 +39,8 @@ class RecordingPort : public Port {
     std::function<Answer(const MessageBox&)> answer;
     /// Answers a file dialog; without one it is cancelled.
     std::function<std::optional<std::string>(const FileDialog&)> file;
+    /// Whether a run goes on behind the position that was held last; without one it does.
+    std::function<bool()> goes_on;
     bool shows_repeated_faults = true;
     std::string user_name;
 
@@ -44,6 +48,8 @@ class RecordingPort : public Port {
     std::vector<ScreenId> screens;  ///< in the order in which they were shown
     std::vector<ScreenId> hidden;
     std::vector<ScreenId> printed;
+    std::vector<bool> runs;     ///< beginnings and ends of runs
+    std::vector<double> holds;  ///< milliseconds
     std::vector<FileDialog> dialogs;
     std::string focus;  ///< control that was given the focus last
     int fills = 0;      ///< how often the screens were filled

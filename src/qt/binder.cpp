@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -48,13 +49,7 @@ QString Qt_Text(const std::string& text) {
 }
 
 QString Shown_Caption(const std::string& caption) {
-    QString text = Qt_Text(caption);
-    text.replace("\r\n", "\n").replace('\r', '\n');
-    QStringList lines = text.split('\n');
-    for (QString& line : lines)
-        while (line.startsWith(' ') || line.startsWith('\t')) line.remove(0, 1);
-    while (lines.size() > 1 && lines.first().isEmpty()) lines.removeFirst();
-    return lines.join('\n');
+    return Qt_Text(caption).replace("\r\n", "\n").replace('\r', '\n');
 }
 
 Binder::Binder(QWidget& form, Runner run) : form_(form), run_(std::move(run)) {}
@@ -113,7 +108,8 @@ void Binder::Add(const std::string& name, TextField& field) {
     if (widget == nullptr) return;
     fields_.push_back({&field, widget});
     widget->installEventFilter(this);
-    connect(widget, &QLineEdit::textEdited, this, [this, widget, &field](const QString& text) {
+    connect(widget, &QLineEdit::textChanged, this, [this, widget, &field](const QString& text) {
+        if (pushing_) return;
         field.text = text.toStdString();
         field.put_value.reset();
         entered_ = {&field, widget};
@@ -143,7 +139,8 @@ void Binder::Add(const std::string& name, Frame& frame) {
 void Binder::Add(const std::string& name, CheckBox& box) {
     auto* widget = Take<QCheckBox>(name);
     if (widget == nullptr) return;
-    connect(widget, &QCheckBox::clicked, this, [this, &box](bool on) {
+    connect(widget, &QCheckBox::toggled, this, [this, &box](bool on) {
+        if (pushing_) return;
         Leave_Field();
         box.on = on;
         Act(box, box.click);
@@ -205,6 +202,27 @@ void Binder::Add(const std::string& name, ScrollBar& bar) {
     });
 }
 
+void Binder::Add(const std::string& name, ComboBox& box) {
+    auto* widget = Take<QComboBox>(name);
+    if (widget == nullptr) return;
+    connect(widget, &QComboBox::currentTextChanged, this, [this, &box](const QString& text) {
+        if (pushing_) return;
+        Leave_Field();
+        box.text = text.toStdString();
+        Act(box, box.change);
+    });
+    Push_Later([this, widget, &box] {
+        const QSignalBlocker quiet(widget);
+        if (widget->count() != static_cast<int>(box.items.size())) {
+            widget->clear();
+            for (const std::string& item : box.items) widget->addItem(Qt_Text(item));
+        }
+        const QString text = Qt_Text(box.text);
+        if (widget->currentText() != text) widget->setCurrentText(text);
+        Push_Common(*widget, box);
+    });
+}
+
 void Binder::Add(const std::string& name, MenuItem& item) {
     auto* action = Take<QAction>(name);
     if (action == nullptr) return;
@@ -238,7 +256,9 @@ void Binder::Push() {
 void Binder::Leave_Field() {
     if (entered_.record == nullptr || pushing_) return;
     const Field left = std::exchange(entered_, {});
+    leaving_ = true;
     run_(left.record->lost_focus);
+    leaving_ = false;
 }
 
 void Binder::Set_Focus(std::string_view name) {
@@ -250,7 +270,7 @@ void Binder::Set_Focus(std::string_view name) {
     edit->selectAll();
     const auto field =
         std::find_if(fields_.begin(), fields_.end(), [&](const Field& f) { return f.widget == edit; });
-    if (field != fields_.end()) entered_ = *field;
+    if (field != fields_.end() && !leaving_) entered_ = *field;
 }
 
 bool Binder::Field_Event(const Field& field, QEvent* event) {
@@ -259,7 +279,8 @@ bool Binder::Field_Event(const Field& field, QEvent* event) {
         return true;
     }
     if (event->type() == QEvent::FocusIn && !Is_Passing(*event)) {
-        entered_ = field;
+        // A refused entry that calls the user back is refused once, not again by the click that left it.
+        if (!leaving_) entered_ = field;
         field.widget->selectAll();
         // The press that brings the focus sets the cursor and so ends the selection.
         clicked_in_ = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;

@@ -21,8 +21,7 @@ class QWidget;
 
 namespace kervol {
 
-/// A caption as a widget shows it: line breaks of either kind, no blanks at the start of a line, no empty
-/// line before the first.
+/// A caption as a widget shows it: as it stands, with line breaks of either kind.
 QString Shown_Caption(const std::string& caption);
 QString Qt_Text(const std::string& text);
 
@@ -40,6 +39,7 @@ class Binder : public QObject {
     void Add(const std::string& name, Frame& frame);
     void Add(const std::string& name, CheckBox& box);
     void Add(const std::string& name, ScrollBar& bar);
+    void Add(const std::string& name, ComboBox& box);
     void Add(const std::string& name, MenuItem& item);
     template <std::size_t count>
     void Add(const std::string& name, std::array<OptionButton, count>& group) {
@@ -88,6 +88,7 @@ class Binder : public QObject {
     std::vector<Field> fields_;
     Field entered_;
     bool pushing_ = false;
+    bool leaving_ = false;     ///< the lost focus of a field is being dealt with
     bool clicked_in_ = false;  ///< the mouse button that brought a field the focus is still down
     bool scrolled_ = false;    ///< the thumb of a bar is held and has moved
 };

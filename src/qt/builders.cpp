@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/builders.h"
 
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -49,6 +50,13 @@ QPushButton* New_Button(const QString& name) {
 
 QRadioButton* New_Option(const QString& name, const QString& accessible, const QString& tip) {
     return Named(new QRadioButton, name, accessible, tip);
+}
+
+QCheckBox* New_Check(const QString& name, const QString& tip) {
+    auto* box = new QCheckBox;
+    box->setObjectName(name);
+    box->setToolTip(tip);
+    return box;
 }
 
 QLineEdit* New_Text(const QString& name, const QString& accessible, const QString& tip) {

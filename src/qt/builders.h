@@ -7,6 +7,7 @@
 #include <initializer_list>
 
 class QBoxLayout;
+class QCheckBox;
 class QGridLayout;
 class QGroupBox;
 class QHBoxLayout;
@@ -28,6 +29,7 @@ QLabel* New_Label(const QString& name);
 QLabel* New_Heading(const QString& name, double size);
 QPushButton* New_Button(const QString& name);
 QRadioButton* New_Option(const QString& name, const QString& accessible, const QString& tip);
+QCheckBox* New_Check(const QString& name, const QString& tip);
 QLineEdit* New_Text(const QString& name, const QString& accessible, const QString& tip);
 /// Right-aligned and of the one width of all number fields.
 QLineEdit* New_Number(const QString& name, const QString& accessible, const QString& tip);

@@ -2,7 +2,6 @@
 // The window program: kervol [MODEL].
 #include <QApplication>
 #include <QTimer>
-#include <iostream>
 #include <memory>
 
 #include "qt/icon.h"
@@ -19,15 +18,18 @@ struct Run {
     kervol::Screens screens{program};
 };
 
+/// What stands behind the program's name, as one text: a path with blanks needs no quotes.
+std::string Command_Line(int argc, char** argv) {
+    std::string line;
+    for (int i = 1; i < argc; ++i) line += (i > 1 ? " " : "") + std::string(argv[i]);
+    return line;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication app(argc, argv);
-    if (argc > 2) {
-        std::cerr << "kervol: at most one model file can be opened\n";
-        return 1;
-    }
     kervol::Set_Look();
     QApplication::setApplicationName("kervol");
     QApplication::setDesktopFileName("kervol");
@@ -37,7 +39,6 @@ int main(int argc, char** argv) {
 
     auto run = std::make_unique<Run>();
     run->port.Attach(run->screens);
-    QTimer::singleShot(
-        0, [&run, path = std::string(argc == 2 ? argv[1] : "")] { kervol::Launch(run->screens, path); });
+    QTimer::singleShot(0, [&run, line = Command_Line(argc, argv)] { kervol::Launch(run->screens, line); });
     return QApplication::exec();
 }

@@ -6,16 +6,15 @@
 
 namespace kervol {
 
-bool Stroke::operator==(const Stroke& other) const {
-    return kind == other.kind && colour == other.colour && Is_Same(x1, other.x1) && Is_Same(y1, other.y1) &&
-           Is_Same(x2, other.x2) && Is_Same(y2, other.y2);
+bool Shape::operator==(const Shape& other) const {
+    return kind == other.kind && Is_Same(x1, other.x1) && Is_Same(y1, other.y1) && Is_Same(x2, other.x2) &&
+           Is_Same(y2, other.y2);
 }
 
-std::size_t PictureList::StrokeHash::operator()(const Stroke& stroke) const {
-    std::size_t hash = static_cast<std::size_t>(stroke.kind);
-    const auto mix = [&hash](std::size_t part) { hash = hash * 1099511628211U + part; };
-    for (const double value : {stroke.x1, stroke.y1, stroke.x2, stroke.y2}) mix(std::hash<double>()(value));
-    for (const unsigned channel : {stroke.colour.red, stroke.colour.green, stroke.colour.blue}) mix(channel);
+std::size_t PictureList::ShapeHash::operator()(const Shape& shape) const {
+    std::size_t hash = static_cast<std::size_t>(shape.kind);
+    for (const double value : {shape.x1, shape.y1, shape.x2, shape.y2})
+        hash = hash * 1099511628211U + std::hash<double>()(value);
     return hash;
 }
 
@@ -41,7 +40,7 @@ void PictureList::Set_Background(Colour colour) {
 }
 
 void PictureList::Line(double x1, double y1, double x2, double y2, Colour colour) {
-    Add({Stroke::Kind::Line, x1, y1, x2, y2, colour}, x2, y2);
+    Add({Shape::Kind::Line, x1, y1, x2, y2}, colour, x2, y2);
 }
 
 void PictureList::Line_To(double x, double y, Colour colour) {
@@ -49,18 +48,24 @@ void PictureList::Line_To(double x, double y, Colour colour) {
 }
 
 void PictureList::Circle(double x, double y, double radius, Colour colour) {
-    Add({Stroke::Kind::Circle, x, y, radius, 0, colour}, x, y);
+    Add({Shape::Kind::Circle, x, y, radius, 0}, colour, x, y);
 }
 
 void PictureList::Set_Point(double x, double y, Colour colour) {
-    Add({Stroke::Kind::Point, x, y, 0, 0, colour}, x, y);
+    Add({Shape::Kind::Point, x, y, 0, 0}, colour, x, y);
 }
 
-void PictureList::Add(const Stroke& stroke, double x, double y) {
-    last_[stroke] = drawn_.size();
-    drawn_.push_back(stroke);
+void PictureList::Add(const Shape& shape, Colour colour, double x, double y) {
     x_ = x;
     y_ = y;
+    const auto [place, is_new] = last_.try_emplace(shape, drawn_.size());
+    if (!is_new) drawn_[place->second].covered = true;
+    if (colour == background_) {
+        last_.erase(place);
+    } else {
+        place->second = drawn_.size();
+        drawn_.push_back({{shape, colour}});
+    }
     if (drawn_.size() > 1000 && drawn_.size() > 2 * last_.size()) Drop_Covered();
     Changed();
 }
@@ -68,14 +73,14 @@ void PictureList::Add(const Stroke& stroke, double x, double y) {
 std::vector<Stroke> PictureList::Strokes() const {
     std::vector<Stroke> strokes;
     strokes.reserve(last_.size());
-    for (std::size_t i = 0; i < drawn_.size(); ++i)
-        if (last_.at(drawn_[i]) == i) strokes.push_back(drawn_[i]);
+    for (const Drawn& drawn : drawn_)
+        if (!drawn.covered) strokes.push_back(drawn.stroke);
     return strokes;
 }
 
 void PictureList::Drop_Covered() {
-    drawn_ = Strokes();
-    for (std::size_t i = 0; i < drawn_.size(); ++i) last_[drawn_[i]] = i;
+    std::erase_if(drawn_, [](const Drawn& drawn) { return drawn.covered; });
+    for (std::size_t i = 0; i < drawn_.size(); ++i) last_[drawn_[i].stroke.shape] = i;
 }
 
 }  // namespace kervol

@@ -11,15 +11,19 @@
 
 namespace kervol {
 
-/// One thing drawn. Line: both ends. Circle: centre and radius `x2`. Point: itself.
-struct Stroke {
+/// Line: both ends. Circle: centre and radius `x2`. Point: itself.
+struct Shape {
     enum class Kind { Line, Circle, Point };
 
     Kind kind;
     double x1, y1, x2, y2;
-    Colour colour;
 
-    bool operator==(const Stroke& other) const;
+    bool operator==(const Shape& other) const;
+};
+
+struct Stroke {
+    Shape shape;
+    Colour colour;
 };
 
 /// The square or oblong part of the world that the picture shows.
@@ -27,8 +31,9 @@ struct WorldWindow {
     double left, top, right, bottom;
 };
 
-/// Of several equal strokes only the last is kept: it covers the others, so the picture is the same, its
-/// smooth edges do not darken, and stepping for hours does not grow the list.
+/// Of several strokes of one shape only the last is kept: it covers the others, so the picture is the same,
+/// its smooth edges do not darken, and stepping for hours does not grow the list. A stroke in the colour of
+/// the background takes away what stands in its shape, smooth edges and all, and leaves what it crosses.
 class PictureList : public Picture {
   public:
     void Clear() override;
@@ -50,18 +55,22 @@ class PictureList : public Picture {
     std::function<void()> changed;
 
   private:
-    struct StrokeHash {
-        std::size_t operator()(const Stroke& stroke) const;
+    struct ShapeHash {
+        std::size_t operator()(const Shape& shape) const;
+    };
+    struct Drawn {
+        Stroke stroke;
+        bool covered = false;
     };
 
-    void Add(const Stroke& stroke, double x, double y);
+    void Add(const Shape& shape, Colour colour, double x, double y);
     void Drop_Covered();
     void Changed() const {
         if (changed) changed();
     }
 
-    std::vector<Stroke> drawn_;                                 ///< with the covered ones
-    std::unordered_map<Stroke, std::size_t, StrokeHash> last_;  ///< where in `drawn_` a stroke stands last
+    std::vector<Drawn> drawn_;                                ///< with the covered ones
+    std::unordered_map<Shape, std::size_t, ShapeHash> last_;  ///< where in `drawn_` a shape stands last
     WorldWindow window_{0, 0, 1, 1};
     Colour background_{255, 255, 255};
     double x_ = 0, y_ = 0;  ///< the current point

@@ -11,6 +11,7 @@ namespace {
 /// Logical pixels, whatever the zoom.
 constexpr double kPenWidth = 1.6;
 constexpr double kPointRadius = 1.6;
+constexpr double kLargestRadius = 1e6;
 
 QColor Qt_Colour(Colour colour) {
     return QColor(colour.red, colour.green, colour.blue);
@@ -26,19 +27,19 @@ class StrokePainter {
     StrokePainter& operator=(const StrokePainter&) = delete;
 
     void Paint(const Stroke& stroke) {
-        if (!lines_.isEmpty() && (stroke.kind != Stroke::Kind::Line || stroke.colour != colour_)) Flush();
+        if (!lines_.isEmpty() && (stroke.shape.kind != Shape::Kind::Line || stroke.colour != colour_))
+            Flush();
         colour_ = stroke.colour;
-        const QPointF at = widget_.To_Widget(stroke.x1, stroke.y1);
-        switch (stroke.kind) {
-            case Stroke::Kind::Line:
-                lines_.append(QLineF(at, widget_.To_Widget(stroke.x2, stroke.y2)));
+        const Shape& shape = stroke.shape;
+        const QPointF at = widget_.To_Widget(shape.x1, shape.y1);
+        switch (shape.kind) {
+            case Shape::Kind::Line:
+                lines_.append(QLineF(at, widget_.To_Widget(shape.x2, shape.y2)));
                 break;
-            case Stroke::Kind::Circle:
-                painter_.setPen(Pen());
-                painter_.setBrush(Qt::NoBrush);
-                painter_.drawEllipse(at, std::abs(stroke.x2) * scale_, std::abs(stroke.x2) * scale_);
+            case Shape::Kind::Circle:
+                Draw_Circle(at, std::abs(shape.x2) * scale_);
                 break;
-            case Stroke::Kind::Point:
+            case Shape::Kind::Point:
                 painter_.setPen(Qt::NoPen);
                 painter_.setBrush(Qt_Colour(colour_));
                 painter_.drawEllipse(at, kPointRadius, kPointRadius);
@@ -47,6 +48,14 @@ class StrokePainter {
     }
 
   private:
+    void Draw_Circle(QPointF centre, double radius) {
+        // What is far larger than any screen the painter would fill from edge to edge.
+        if (radius > kLargestRadius) return;
+        painter_.setPen(Pen());
+        painter_.setBrush(Qt::NoBrush);
+        painter_.drawEllipse(centre, radius, radius);
+    }
+
     QPen Pen() const {
         return QPen(Qt_Colour(colour_), kPenWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     }

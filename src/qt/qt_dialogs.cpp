@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
 #include <array>
@@ -98,6 +99,8 @@ Answer QtPort::Show_Message(const MessageBox& box) {
     shown.setIcon(Qt_Icon(box.icon));
     shown.setStandardButtons(Qt_Buttons(box.buttons));
     shown.setDefaultButton(Button_Of(box.preset));
+    // Escape must not abandon a run.
+    if (box.buttons == Buttons::AbortRetryIgnore) shown.setEscapeButton(Button_Of(box.preset));
     const int pressed = shown.exec();
     if (busy) Set_Pointer(Pointer::Busy);
     Release_Stuck_Buttons(Front_Window());
@@ -117,10 +120,11 @@ std::optional<std::string> QtPort::Ask_File(const FileDialog& dialog, bool savin
     QString folder = Folder_Of(screens_->program.model.ModelPath);
     if (folder.isEmpty()) folder = last_folder_.empty() ? QDir::currentPath() : Qt_Text(last_folder_);
     shown.setDirectory(folder);
-    // A pattern as the name is what the filter already says.
     const QString name = Qt_Text(dialog.name);
-    if (!name.contains('*')) shown.selectFile(name);
+    shown.selectFile(name);
     if (saving) shown.setDefaultSuffix(QFileInfo(name).suffix());
+    // What is typed takes the place of the proposal.
+    if (auto* field = shown.findChild<QLineEdit*>()) QTimer::singleShot(0, field, &QLineEdit::selectAll);
     if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) return std::nullopt;
     last_folder_ = shown.directory().absolutePath().toStdString();
     return QDir::toNativeSeparators(shown.selectedFiles().first()).toStdString();

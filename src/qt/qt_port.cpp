@@ -5,7 +5,7 @@
 #include <QEventLoop>
 #include <QLineEdit>
 #include <QScreen>
-#include <stdexcept>
+#include <utility>
 
 #include "screens/control_lists.h"
 #include "screens/input_events.h"
@@ -14,12 +14,18 @@
 namespace kervol {
 namespace {
 
+/// In the order of `ScreenId`.
+constexpr std::array<const char*, 8> kNames = {"frm_Title",      "frm_Disclaimer", "frm_User",
+                                               "frm_HomeScreen", "frm_Inputnew",   "frm_Animate",
+                                               "frm_About",      "frm_Quit"};
+
+/// Centred each time it opens, as large as it was left.
 void Place(FormWindow& window) {
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (screen == nullptr) return;
     const QRect room = screen->availableGeometry();
     const QSize wanted = (room.size() * window.screen_share).expandedTo(window.sizeHint());
-    window.resize(wanted.boundedTo(room.size()));
+    if (!window.testAttribute(Qt::WA_Moved)) window.resize(wanted.boundedTo(room.size()));
     window.move(room.center() - window.rect().center());
 }
 
@@ -31,9 +37,12 @@ QtPort::~QtPort() = default;
 void QtPort::Attach(Screens& screens) {
     screens_ = &screens;
     screens.frm_Inputnew.Picture1 = &input_picture_;
+    screens.frm_Animate.Picture1 = &animate_picture_;
 }
 
 void QtPort::Run(const Event& event) {
+    // All that the gate lets through is the button that started the run.
+    if (run_) return run_->Ask_End();
     if (event && !ended_) event();
     Push_All();
 }
@@ -77,15 +86,16 @@ void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
             Lay_Out_Quit(*form.window);
             return Bind(form, screens_->frm_Quit);
         case ScreenId::frm_Animate:
-            break;
+            Lay_Out_Animate(*form.window, animate_picture_);
+            return Bind(form, screens_->frm_Animate);
     }
-    throw std::logic_error("This screen has no window");
 }
 
 QtPort::OpenForm& QtPort::Made_Form(ScreenId screen) {
     OpenForm& form = forms_.at(static_cast<std::size_t>(screen));
     if (form.binder != nullptr) return form;
     form.window = std::make_unique<FormWindow>();
+    form.window->setObjectName(QString::fromLatin1(kNames.at(static_cast<std::size_t>(screen))));
     form.window->close_asked = [this, screen] { Close_By_User(screen); };
     Lay_Out(screen, form);
     return form;
@@ -101,7 +111,8 @@ void QtPort::Close_By_User(ScreenId screen) {
 }
 
 QWidget* QtPort::Front_Window() {
-    if (!stack_.empty() && !stack_.back()->closed) return &Form(stack_.back()->screen);
+    if (!stack_.empty() && !stack_.back()->closed && Form(stack_.back()->screen).isVisible())
+        return &Form(stack_.back()->screen);
     const OpenForm& home = forms_[static_cast<std::size_t>(ScreenId::frm_HomeScreen)];
     return home.window && home.window->isVisible() ? home.window.get() : nullptr;
 }
@@ -122,7 +133,7 @@ void QtPort::Open_Window(ScreenId screen, Modality modality) {
     window.setWindowTitle(Qt_Text(Screen_Caption(*screens_, screen)).trimmed());
     window.setWindowModality(modality == Modality::Modal ? Qt::ApplicationModal : Qt::NonModal);
     Push_All();
-    if (!window.testAttribute(Qt::WA_Moved)) Place(window);
+    Place(window);
     if (stack_.size() > 1) Form(stack_[stack_.size() - 2]->screen).hide();
     window.show();
     // Shows the focus from the start, not only once a key has moved it.
@@ -134,11 +145,19 @@ void QtPort::Open_Window(ScreenId screen, Modality modality) {
 }
 
 void QtPort::Wait_For(ScreenId screen) {
+    if (!stack_.empty() && stack_.back()->closed) {
+        stack_.back()->next = screen;
+        return;
+    }
     QEventLoop loop;
     StackEntry entry{screen, &loop};
     stack_.push_back(&entry);
-    Open_Window(screen, Modality::Modal);
-    if (!entry.closed) loop.exec();
+    for (std::optional<ScreenId> next = screen; next && !ended_; next = std::exchange(entry.next, {})) {
+        entry.screen = *next;
+        entry.closed = false;
+        Open_Window(*next, Modality::Modal);
+        if (!entry.closed) loop.exec();
+    }
     stack_.pop_back();
     if (!ended_) Return_To_Opener();
 }
@@ -190,6 +209,20 @@ void QtPort::End_Program() {
     for (OpenForm& form : forms_)
         if (form.window) form.window->hide();
     QCoreApplication::exit(0);
+}
+
+void QtPort::Set_Running(bool running) {
+    Push_All();
+    run_.reset();
+    if (!running) return;
+    FormWindow& form = Form(ScreenId::frm_Animate);
+    run_ = std::make_unique<RunGate>(*form.findChild<QWidget*>("Picture1"),
+                                     *form.findChild<QWidget*>("cmd_Run"));
+}
+
+bool QtPort::Hold_Picture(double milliseconds) {
+    run_->Hold(milliseconds);
+    return !run_->Is_End_Asked();
 }
 
 void QtPort::Set_Pointer(Pointer pointer) {

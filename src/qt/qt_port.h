@@ -4,12 +4,14 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "core/port.h"
 #include "qt/binder.h"
 #include "qt/form_window.h"
 #include "qt/picture_list.h"
+#include "qt/run_gate.h"
 #include "screens/screens.h"
 
 class QEventLoop;
@@ -35,6 +37,8 @@ class QtPort : public Port {
     void End_Program() override;
     std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) override;
     std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;
+    void Set_Running(bool running) override;
+    bool Hold_Picture(double milliseconds) override;
     void Print_Screen(ScreenId screen) override;
     std::string User_Name() override;
     std::string Long_Path(const std::string& path) override;
@@ -56,6 +60,7 @@ class QtPort : public Port {
         ScreenId screen;
         QEventLoop* loop;
         bool closed = false;
+        std::optional<ScreenId> next = {};  ///< takes its place
     };
 
     OpenForm& Made_Form(ScreenId screen);
@@ -73,9 +78,10 @@ class QtPort : public Port {
     bool Choose_Printer(QPrinter& printer, const QWidget& form);
 
     Screens* screens_ = nullptr;
-    PictureList input_picture_;
+    PictureList input_picture_, animate_picture_;
     std::array<OpenForm, 8> forms_;
     std::vector<StackEntry*> stack_;  ///< the open modal screens, the front one last
+    std::unique_ptr<RunGate> run_;    ///< of the animation, while it runs
     std::string last_folder_;
     bool busy_ = false;
     bool ended_ = false;

@@ -2,8 +2,8 @@
 // What the port asks of the system.
 #include <QDateTime>
 #include <QLocale>
-#include <filesystem>
 
+#include "core/path_text.h"
 #include "qt/qt_port.h"
 
 #ifdef Q_OS_UNIX
@@ -28,9 +28,7 @@ std::string QtPort::User_Name() {
 }
 
 std::string QtPort::Long_Path(const std::string& path) {
-    std::error_code error;
-    const auto long_path = std::filesystem::absolute(path, error).lexically_normal();
-    return !error && std::filesystem::exists(long_path, error) ? long_path.string() : std::string();
+    return Long_Path_Of(path);
 }
 
 DateAndTime QtPort::Short_Date_And_Time() {

@@ -9,7 +9,16 @@
 
 namespace kervol {
 
+/// Some members of a group: those that stand on a screen.
+template <class Visitor, class Record, std::size_t count, std::size_t shown>
+void Visit_Members(Visitor& visit, const std::string& group, std::array<Record, count>& records,
+                   const std::array<int, shown>& members) {
+    for (const int member : members)
+        visit((group + "_" + std::to_string(member)).c_str(), records.at(static_cast<std::size_t>(member)));
+}
+
 #define KERVOL_CONTROL(name) visit(#name, screen.name)
+#define KERVOL_MEMBERS(name, ...) Visit_Members(visit, #name, screen.name, std::array{__VA_ARGS__})
 
 template <class Visitor>
 void Visit_Controls(TitleScreen& screen, Visitor&& visit) {
@@ -80,9 +89,12 @@ void Visit_Controls(InputScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(opt_OpenCross1);
     KERVOL_CONTROL(opt_OpenCross2);
     KERVOL_CONTROL(Pnl_Grashof);
-    KERVOL_CONTROL(lbl_Left);
+    // The second coupler point has its own label.
+    KERVOL_MEMBERS(lbl_Left, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 13, 14, 15, 16);
+    KERVOL_CONTROL(lbl_Linkout2);
     KERVOL_CONTROL(txt_Linkout);
-    KERVOL_CONTROL(lbl_Units);
+    Visit_Members(visit, "lbl_Units", screen.lbl_Units, kLengthFields);
+    Visit_Members(visit, "lbl_Degrees", screen.lbl_Degrees, kAngleFields);
     KERVOL_CONTROL(frm_calcmode);
     KERVOL_CONTROL(opt_Calctype);
     KERVOL_CONTROL(lbl_Initial);
@@ -110,6 +122,44 @@ void Visit_Controls(InputScreen& screen, Visitor&& visit) {
 }
 
 template <class Visitor>
+void Visit_Controls(AnimateScreen& screen, Visitor&& visit) {
+    KERVOL_CONTROL(lbl_Header);
+    KERVOL_CONTROL(txt_header);
+    KERVOL_MEMBERS(lbl_Left, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 14, 15, 16);
+    KERVOL_MEMBERS(txt_Linkout, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 14, 15, 16);
+    KERVOL_MEMBERS(lbl_Units, 0, 1, 2, 3, 4, 6, 7, 8, 9, 15, 16);
+    KERVOL_MEMBERS(lbl_Degrees, 5, 14);
+    KERVOL_CONTROL(opt_OpenCross1);
+    KERVOL_CONTROL(opt_OpenCross2);
+    KERVOL_MEMBERS(lbl_Initial, 0, 1, 2);
+    KERVOL_MEMBERS(txt_Initial, 0, 1, 2);
+    KERVOL_MEMBERS(lbl_Unit, 0, 1, 2);
+    KERVOL_CONTROL(lbl_camdriven);
+    KERVOL_CONTROL(lbl_StepLabel);
+    KERVOL_CONTROL(lbl_StepNumber);
+    KERVOL_CONTROL(lbl_StepUnit);
+    KERVOL_CONTROL(hsc_step);
+    KERVOL_CONTROL(lbl_cw);
+    KERVOL_CONTROL(lbl_ccw);
+    KERVOL_CONTROL(lbl_time);
+    KERVOL_CONTROL(hsc_speed);
+    KERVOL_CONTROL(txt_Cycles);
+    KERVOL_CONTROL(cmb_wait);
+    KERVOL_CONTROL(chk_autoscale);
+    KERVOL_CONTROL(chk_Trace);
+    KERVOL_CONTROL(chk_Showlinks);
+    KERVOL_CONTROL(chk_Coupler);
+    KERVOL_CONTROL(chk_Points);
+    KERVOL_CONTROL(cmd_Back);
+    KERVOL_CONTROL(cmd_Recalc);
+    KERVOL_CONTROL(cmd_Run);
+    KERVOL_CONTROL(cmd_Step);
+    KERVOL_CONTROL(cmd_Reset);
+    KERVOL_CONTROL(cmd_Copy);
+    KERVOL_CONTROL(cmd_Done);
+}
+
+template <class Visitor>
 void Visit_Controls(AboutScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(lblHeader);
     KERVOL_CONTROL(lbl_Version);
@@ -122,6 +172,7 @@ void Visit_Controls(QuitScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(cmd_NoQuit);
 }
 
+#undef KERVOL_MEMBERS
 #undef KERVOL_CONTROL
 
 }  // namespace kervol

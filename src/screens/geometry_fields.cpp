@@ -89,14 +89,8 @@ void Put_Common_Fields(const LinkageModel& model, LinkageScreen& screen) {
     Put_Number(fields.at(Field_O4Y), model.O4Y, kLengthCode);
 }
 
-constexpr bool Is_Angle(int field) {
-    return field == Field_Delta4 || field == Field_Delta3 || field == Field_Delta5 || field == Field_Ground;
-}
-
 void Put_Length_Units(const LinkageModel& model, LinkageScreen& screen) {
-    for (int field = 0; field < NumLinkFields; ++field)
-        if (!Is_Angle(field))
-            screen.lbl_Units.at(static_cast<std::size_t>(field)).caption = model.UnitText(6);
+    for (Label& unit : screen.lbl_Units) unit.caption = model.UnitText(6);
 }
 
 void Close_Reading(Screens& screens, const LinkageScreen& screen) {
@@ -222,10 +216,11 @@ void Change_Labels(Screens& screens) {
             screen.txt_Linkout[index].visible = watt;
             screen.lbl_Left[index].visible = watt;
             screen.lbl_Units[index].visible = watt;
+            screen.lbl_Degrees[index].visible = watt;
         }
         screen.lbl_Left.at(Field_Link5).caption = watt ? "Link 5 (D-E)" : "Link 5 (C-D)";
         screen.lbl_Left.at(Field_Link6).caption = watt ? "Link 6 (O6-E)" : "Link 6 (O6-D)";
-        screen.lbl_Linkout2().caption = watt ? "Dist Coup Pt (D-F)" : "Dist Coup Pt (C-F)";
+        screen.lbl_Linkout2.caption = watt ? "Dist Coup Pt (D-F)" : "Dist Coup Pt (C-F)";
         screen.lbl_directions.caption =
             watt ? "See Figure A-12 in Mechanon for definitions of linkage nomenclature"
                  : "See Figure A-13 in Mechanon for definitions of linkage nomenclature";

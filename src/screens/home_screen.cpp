@@ -33,8 +33,8 @@ void Clear_Input_Picture(Screens& screens) {
     if (screens.frm_Inputnew.Picture1 != nullptr) screens.frm_Inputnew.Picture1->Clear();
 }
 
-/// An example writes its pivots in both frames but not the ground angle, which may be that of the model
-/// before it.
+/// Deliberate: an example writes its pivots in both frames but not the ground angle, which may be that of the
+/// model before it, and a pivot's field that nobody edits leaves the angle as it is.
 void Level_Ground(LinkageModel& model) {
     Cart_to_Polar(model.O4X, model.O4Y, model.Link1, model.GroundAngleDeg);
     model.GroundAngle = Single(model.GroundAngleDeg * RadiansPerDegree);
@@ -71,9 +71,9 @@ void mnu_Open_Click(Screens& screens) {
          "*.kvl"});
     if (!path) return;
     const ReadReport report = Open_Model(program, *path);
-    Update_Home_Menu(screens);
     const bool opened = report.line > 0;
     if (!opened) return;
+    Update_Home_Menu(screens);
     screens.frm_HomeScreen.mnu_New.enabled = true;
     Clear_Input_Picture(screens);
 }
@@ -121,6 +121,11 @@ void Choose_Example(Screens& screens, std::string_view name) {
     model.DynamicsCalculated = false;
     program.port.Show_Screen(ScreenId::frm_Inputnew, Modality::Modal);
     Update_Home_Menu(screens);
+}
+
+void cmd_Animate_Click(Screens& screens) {
+    screens.program.animation.CurrentStep = 0;
+    screens.program.port.Show_Screen(ScreenId::frm_Animate, Modality::Modal);
 }
 
 void mnu_Disclaimer_Click(Screens& screens) {
@@ -181,6 +186,7 @@ void Wire_Home_Screen(Screens& screens) {
         return [name](Screens& all) { Choose_Example(all, name); };
     };
     on(home.cmd_Input.click, "frm_Homescreen.Input", opens(ScreenId::frm_Inputnew));
+    on(home.cmd_Animate.click, "frm_Homescreen.Animate", cmd_Animate_Click);
     on(home.cmd_Quit.click, "frm_Homescreen.Quit", Quit);
     on(home.mnu_Quit.click, "frm_Homescreen.Quit", Quit);
     on(home.mnu_New.click, "frm_Homescreen.New", mnu_New_Click);

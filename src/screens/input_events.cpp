@@ -106,18 +106,20 @@ void cmd_Draw_Click(Screens& screens) {
     InputScreen& screen = screens.frm_Inputnew;
     Get_Input_Geometry(screens);
     const std::int16_t steps = model.NumSteps;
+    program.port.Set_Pointer(Pointer::Busy);
     Set_Preview_Range(program);
     screen.opt_Calctype[2].enabled = model.Stage1Class != "N";
     Answer response = Answer::None;
     Run_Sweep(program, model.CalcMode, response);
+    // A preview must not cut an imported drive.
+    if (model.CalcMode > 3) model.NumSteps = steps;
     Draw_First_Position(screens);
     for (Button* button : {&screen.cmd_Step, &screen.cmd_Reset, &screen.cmd_Next, &screen.cmd_Print})
         button->enabled = true;
     model.DataCalculated = false;
     model.DynamicsCalculated = false;
     model.NewData = true;
-    // A preview must not cut an imported drive.
-    if (model.CalcMode > 3) model.NumSteps = steps;
+    program.port.Set_Pointer(Pointer::Default);
 }
 
 void cmd_Next_Click(Screens& screens) {
@@ -127,6 +129,13 @@ void cmd_Next_Click(Screens& screens) {
     if (screen.GeometryEdited) program.model.DesignNumber = Int16(program.model.DesignNumber + 1.0);
     program.animation.CurrentStep = 0;
     program.port.Hide_Screen(ScreenId::frm_Inputnew);
+    if (program.model.CalcMode != 1) program.port.Show_Screen(ScreenId::frm_Animate, Modality::Modal);
+}
+
+void cmd_Animate_Click(Screens& screens) {
+    screens.program.animation.CurrentStep = 0;
+    screens.program.port.Hide_Screen(ScreenId::frm_Inputnew);
+    screens.program.port.Show_Screen(ScreenId::frm_Animate, Modality::Modal);
 }
 
 void cmd_Print_Click(Screens& screens) {
@@ -161,6 +170,11 @@ void txt_Initial_LostFocus(Screens& screens) {
     Calculate_Or_Clear(screens);
 }
 
+/// The old tables belong to another drive.
+void txt_Initial_Change(Screens& screens) {
+    Disable_Outputs(screens);
+}
+
 void opt_SteveWatt_Click(Screens& screens) {
     if (screens.program.model.Loading || screens.frm_Inputnew.Filling) return;
     Change_Labels(screens);
@@ -181,9 +195,7 @@ void Show_Mode(Screens& screens) {
     screen.lbl_cw.visible = screen.lbl_ccw.visible = model.CalcMode == 3;
     screen.lbl_time.visible = model.CalcMode == 2;
     screen.hsc_step.visible = model.CalcMode != 1;
-    screen.lbl_camdriven.visible = imported;
-    screen.lbl_camdriven.caption =
-        "\n This linkage is being driven by \ns-v-a data imported from the file: " + model.DriveFileName;
+    Show_Driven_By(model, screen);
     if (model.CalcMode == 1) Put_Omega_Alpha(model, screen);
     if (model.CalcMode == 1 || model.CalcMode == 3) Put_Calc_Angles(screens);
     if (model.CalcMode == 2) {
@@ -193,9 +205,22 @@ void Show_Mode(Screens& screens) {
     Show_InitialFields(model, screen);
 }
 
+/// Speed, acceleration and angle are read by a calculation; what was typed since must outlive the refill.
+void Keep_Typed_Drive(Screens& screens) {
+    LinkageModel& model = screens.program.model;
+    const auto& fields = screens.frm_Inputnew.txt_Initial;
+    const auto keep = [](const TextField& field, float& value) {
+        if (!field.put_value) value = Number_In(field);
+    };
+    keep(fields[3], model.Omega2Start);
+    keep(fields[4], model.Alpha2Const);
+    keep(fields[5], model.Theta2One);
+}
+
 void opt_Calctype_Click(Screens& screens, std::int16_t mode) {
     LinkageModel& model = screens.program.model;
     if (model.Loading || screens.frm_Inputnew.Filling) return;
+    Keep_Typed_Drive(screens);
     model.CalcMode = mode;
     Show_Mode(screens);
     model.DataCalculated = false;
@@ -273,6 +298,7 @@ void Wire_Input_Screen(Screens& screens) {
     on(screen.cmd_Step.click, "frm_Input.cmd_Step", cmd_Step_Click);
     on(screen.cmd_Reset.click, "frm_Input.cmd_Reset", cmd_Reset_Click);
     on(screen.cmd_Next.click, "frm_Input.cmd_Next", cmd_Next_Click);
+    on(screen.cmd_Animate.click, "frm_Input.cmd_Animate", cmd_Animate_Click);
     on(screen.cmd_Print.click, "frm_Input.Print", cmd_Print_Click);
     on(screen.cmd_Cancel.click, "frm_Input.cmd_Cancel",
        [](Screens& all) { all.program.port.Hide_Screen(ScreenId::frm_Inputnew); });
@@ -284,6 +310,7 @@ void Wire_Input_Screen(Screens& screens) {
         on(field.enter, "frm_Input.txt_Linkout", txt_Linkout_LostFocus);
     }
     for (TextField& field : screen.txt_Initial) {
+        on(field.change, "frm_Input.txt_Initial", txt_Initial_Change);
         on(field.lost_focus, "frm_Input.txt_Initial", txt_Initial_LostFocus);
         on(field.enter, "frm_Input.txt_Initial", txt_Initial_LostFocus);
     }

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/launch_screens.h"
 
-#include <algorithm>
-
 #include "core/arithmetic.h"
 #include "core/number_text.h"
 #include "core/report.h"
 #include "core/units.h"
+#include "screens/animate_events.h"
 #include "screens/fields.h"
 #include "screens/geometry_fields.h"
 #include "screens/home_screen.h"
@@ -59,14 +58,6 @@ std::string Version_Line(const LinkageModel& model) {
            model.ProgramDate;
 }
 
-/// The animation's settings as a file or a fresh start has them.
-void Fill_Settings(const LinkageModel& model, AnimateScreen& screen) {
-    screen.hsc_speed.value = std::clamp(32767 - model.AnimDelay, 0, 32767);
-    screen.txt_Cycles.text = std::to_string(model.AnimCycles);
-    screen.chk_Showlinks.on = model.HideLinks != "Y";
-    screen.chk_Trace.on = model.ShowTrace == "Y";
-}
-
 }  // namespace
 
 void Fill_Screens(Screens& screens) {
@@ -77,7 +68,7 @@ void Fill_Screens(Screens& screens) {
     Put_InitialCond(screens, screens.frm_Animate);
     Put_OpenCross(model, screens.frm_Inputnew);
     Put_OpenCross(model, screens.frm_Animate);
-    Fill_Settings(model, screens.frm_Animate);
+    Put_Settings(model, screens.frm_Animate);
     screens.frm_Inputnew.txt_header.text = screens.frm_Animate.txt_header.text = model.ModelTitle;
     auto& picks = screens.frm_HomeScreen.mnu_pick;
     for (MenuItem& pick : picks) pick.checked = false;
@@ -95,6 +86,7 @@ void Wire_Screens(Screens& screens) {
     };
     Wire_Home_Screen(screens);
     Wire_Input_Screen(screens);
+    Wire_Animate_Screen(screens);
     on(screens.frm_Title.cmd_Start.click, "frm_Title.Start", cmd_Start_Click);
     on(screens.frm_Title.cmd_Abort.click, "frm_Title.Abort",
        [](Screens& all) { all.program.port.Show_Screen(ScreenId::frm_Quit, Modality::Modal); });
@@ -121,13 +113,15 @@ void Activate_Screen(Screens& screens, ScreenId screen) {
             case ScreenId::frm_Inputnew:
                 Input_Form_Activate(screens);
                 break;
+            case ScreenId::frm_Animate:
+                Animate_Form_Activate(screens);
+                break;
             case ScreenId::frm_Quit:
                 screens.program.port.Set_Focus(ScreenId::frm_Quit, "cmd_NoQuit");
                 break;
             case ScreenId::frm_Title:
             case ScreenId::frm_Disclaimer:
             case ScreenId::frm_About:
-            case ScreenId::frm_Animate:
                 break;
         }
     });
@@ -150,8 +144,9 @@ void Close_Screen(Screens& screens, ScreenId screen) {
             return press(screens.frm_Inputnew.cmd_Cancel);
         case ScreenId::frm_Quit:
             return press(screens.frm_Quit.cmd_NoQuit);
-        case ScreenId::frm_About:
         case ScreenId::frm_Animate:
+            return press(screens.frm_Animate.cmd_Done);
+        case ScreenId::frm_About:
             return screens.program.port.Hide_Screen(screen);
     }
 }

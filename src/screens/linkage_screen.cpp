@@ -26,8 +26,7 @@ void Put_Captions(LinkageScreen& screen) {
     };
     for (std::size_t field = 0; field < kCaptions.size(); ++field)
         screen.lbl_Left[field].caption = kCaptions[field];
-    for (const auto field : {Field_Delta4, Field_Delta3, Field_Delta5, Field_Ground})
-        screen.lbl_Units[field].caption = "deg";
+    for (Label& label : screen.lbl_Degrees) label.caption = "deg";
     for (std::size_t field = 3; field < NumInitialFields; ++field)
         screen.lbl_Unit[field].caption = std::array{"rad/s", "rad/s^2", "deg"}[field - 3];
     for (auto* options : {&screen.opt_OpenCross1, &screen.opt_OpenCross2}) {
@@ -49,6 +48,9 @@ void Put_Captions(LinkageScreen& screen) {
 
 InputScreen::InputScreen() {
     Put_Captions(*this);
+    lbl_Left[Field_LinkO4D].caption = "O4D or cp3 dist";
+    lbl_Left[Field_Delta4].caption = "Delta4 or Delta3";
+    lbl_Linkout2.caption = lbl_Left[Field_Coupler2].caption;
     opt_SteveWatt[0].caption = "Watt";
     opt_SteveWatt[1].caption = "Stephenson";
     opt_Calctype[0].caption = "&Angle Steps";
@@ -61,7 +63,6 @@ InputScreen::InputScreen() {
     cmd_Animate.caption = "&Animate";
     cmd_Cancel.caption = "< &Back";
     cmd_Print.caption = "&Print";
-    cmd_Animate.unavailable = "The Animation screen is not there yet.";
 }
 
 AnimateScreen::AnimateScreen() {
@@ -70,6 +71,15 @@ AnimateScreen::AnimateScreen() {
     chk_Showlinks.on = true;
     cmb_wait.items = {"10", "20", "40", "100", "500"};
     cmb_wait.text = "1000";
+    chk_Trace.caption = "Trace";
+    chk_Showlinks.caption = "Links";
+    chk_Coupler.caption = "Coupler Path";
+    chk_Points.caption = "Coupler Pts";
+    cmd_Run.caption = "&Run";
+    cmd_Recalc.caption = "&Recalc";
+    cmd_Copy.caption = "&Print";
+    cmd_Done.caption = "&Next >";
+    cmd_Back.caption = "< &Back";
 }
 
 }  // namespace kervol

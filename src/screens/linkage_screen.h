@@ -33,12 +33,16 @@ enum LinkField {
 inline constexpr int NumLinkFields = 17;
 inline constexpr int NumInitialFields = 6;
 
+inline constexpr std::array kLengthFields = {0, 1, 2, 3, 4, 6, 7, 8, 9, 10, 12, 15, 16};
+inline constexpr std::array kAngleFields = {5, 11, 13, 14};
+
 /// What both screens carry. Labels and units stand beside the field of the same index; entries that a screen
 /// does not show are not in its list of controls.
 struct LinkageScreen : LinkageView {
     std::array<TextField, NumLinkFields> txt_Linkout;
     std::array<Label, NumLinkFields> lbl_Left;
-    std::array<Label, NumLinkFields> lbl_Units;  ///< unit of length, "deg" beside angles
+    std::array<Label, NumLinkFields> lbl_Units;    ///< unit of length, beside lengths
+    std::array<Label, NumLinkFields> lbl_Degrees;  ///< beside angles
     std::array<TextField, NumInitialFields> txt_Initial;
     std::array<Label, NumInitialFields> lbl_Initial;
     std::array<Label, NumInitialFields> lbl_Unit;
@@ -47,12 +51,14 @@ struct LinkageScreen : LinkageView {
     Label lbl_camdriven;
     TextField txt_header;
     Button cmd_Step, cmd_Reset;
+
+    bool GeometryEdited = false;
+    bool Filling = false;   ///< held while the screen is filled: option clicks do not calculate
+    bool Stepping = false;  ///< held while the step bar is written
 };
 
 struct InputScreen : LinkageScreen {
     InputScreen();
-
-    Label& lbl_Linkout2() { return lbl_Left[Field_Coupler2]; }
 
     std::array<OptionButton, 2> opt_SteveWatt;
     std::array<OptionButton, 3> opt_Calctype;
@@ -61,20 +67,18 @@ struct InputScreen : LinkageScreen {
     Button cmd_Calc, cmd_Draw, cmd_Next, cmd_Animate, cmd_Cancel, cmd_Print;
     std::array<Label, 2> Pnl_Grashof;
     Label lbl_directions;
-    Label lbl_Chain;  ///< name of the chain above the fields
+    Label lbl_Chain;     ///< name of the chain above the fields
+    Label lbl_Linkout2;  ///< beside field 12
 
-    bool GeometryEdited = false;
     bool LinkoutChanged = false;  ///< a geometry field was changed since it got the focus
-    bool Filling = false;         ///< held while the screen is filled: option clicks do not calculate
-    bool Stepping = false;        ///< held while the step bar is written
 };
 
-/// Animation screen: so far a record that other screens fill.
 struct AnimateScreen : LinkageScreen, AnimationSettings {
     AnimateScreen();
 
     ComboBox cmb_wait;
     CheckBox chk_Coupler, chk_Points;
+    Button cmd_Run, cmd_Recalc, cmd_Copy, cmd_Done, cmd_Back;
 };
 
 }  // namespace kervol

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/motion_fields.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -55,17 +56,20 @@ void Put_Range(Fields& fields, float first, float last, float step) {
     Put_Plain_Number(fields[2], step);
 }
 
-/// The one position's angle stands in field 5; the hidden fields of the range mirror it.
-void Mirror_One_Position(Fields& fields) {
+/// The one position's angle stands in field 5, where a screen has that field; fields 0 and 1 mirror it.
+void Mirror_One_Position(Screens& screens) {
+    Fields& fields = screens.frm_Inputnew.txt_Initial;
     for (TextField* mirror : {&fields[0], &fields[1]}) {
         mirror->text = fields[5].text;
         mirror->put_value = fields[5].put_value;
     }
 }
 
-void Get_One_Position(LinkageModel& model, Fields& fields) {
-    Mirror_One_Position(fields);
-    model.Theta2One = Number_In(fields[0]);
+void Get_One_Position(Screens& screens, Fields& fields) {
+    Mirror_One_Position(screens);
+    screens.program.model.Theta2One = Number_In(fields[0]);
+    fields[1].text = fields[0].text;
+    fields[1].put_value = fields[0].put_value;
 }
 
 void Put_Range_On_Screens(Screens& screens, float first, float last, float step) {
@@ -73,9 +77,10 @@ void Put_Range_On_Screens(Screens& screens, float first, float last, float step)
     for (LinkageScreen* screen : {static_cast<LinkageScreen*>(&screens.frm_Inputnew),
                                   static_cast<LinkageScreen*>(&screens.frm_Animate)}) {
         Put_Range(screen->txt_Initial, first, last, step);
-        if (model.CalcMode == 1) Mirror_One_Position(screen->txt_Initial);
+        if (model.CalcMode == 1) Put_Range(screen->txt_Initial, model.Theta2One, model.Theta2One, step);
         Show_InitialFields(model, *screen);
     }
+    if (model.CalcMode == 1) Mirror_One_Position(screens);
 }
 
 void Get_Time_Step(Screens& screens, TextField& field) {
@@ -220,6 +225,23 @@ void Put_SavedAngles(const LinkageModel& model, LinkageScreen& screen) {
     put(2, model.ThetaStepText, model.ThetaStepDeg);
 }
 
+void Put_Speed_And_Cycles(const LinkageModel& model, AnimateScreen& screen) {
+    Put_Value(screen.hsc_speed, 32767 - std::clamp(model.AnimDelay, 0, 32767));
+    screen.txt_Cycles.text = std::to_string(model.AnimCycles);
+}
+
+void Put_Settings(const LinkageModel& model, AnimateScreen& screen) {
+    Put_Speed_And_Cycles(model, screen);
+    screen.chk_Showlinks.on = model.HideLinks != "Y" && model.HideLinks != "y";
+    screen.chk_Trace.on = !model.ShowTrace.empty() && model.ShowTrace != "N";
+}
+
+void Show_Driven_By(const LinkageModel& model, LinkageScreen& screen) {
+    screen.lbl_camdriven.visible = model.CalcMode == 4 || model.CalcMode == 5;
+    screen.lbl_camdriven.caption =
+        "\n This linkage is being driven by \ns-v-a data imported from the file: " + model.DriveFileName;
+}
+
 void Put_InitialCond(Screens& screens, LinkageScreen& screen) {
     const LinkageModel& model = screens.program.model;
     switch (model.CalcMode) {
@@ -239,7 +261,7 @@ void Put_InitialCond(Screens& screens, LinkageScreen& screen) {
 void Get_InitialCond(Screens& screens, LinkageScreen& screen) {
     Program& program = screens.program;
     Procedure(program, "Get_InitialCond", [&] {
-        if (program.model.CalcMode == 1) Get_One_Position(program.model, screen.txt_Initial);
+        if (program.model.CalcMode == 1) Get_One_Position(screens, screen.txt_Initial);
         if (program.model.CalcMode == 2) Get_Time_Range(screens, screen);
         if (program.model.CalcMode == 3) Get_Angle_Range(screens, screen);
         program.model.StepMode = "Y";

@@ -19,6 +19,12 @@ void Put_InitialCond(Screens& screens, LinkageScreen& screen);
 /// Captions, units and visible fields of the model's mode on a screen.
 void Show_InitialFields(const LinkageModel& model, LinkageScreen& screen);
 
+/// The animation's settings as a file or a fresh start has them.
+void Put_Settings(const LinkageModel& model, AnimateScreen& screen);
+void Put_Speed_And_Cycles(const LinkageModel& model, AnimateScreen& screen);
+/// What drives the linkage, where that is a file.
+void Show_Driven_By(const LinkageModel& model, LinkageScreen& screen);
+
 /// Checks and stores the range fields of the model's mode; a refused entry is shown and put back.
 void Get_InitialCond(Screens& screens, LinkageScreen& screen);
 

@@ -118,6 +118,19 @@ TEST_F(Stepping, TellsTheTimeInModesOfTime) {
     }
 }
 
+TEST_F(Stepping, RoundsTheTimeOnceOnly) {
+    model.CalcMode = 2;
+    model.TimeStart = 0.1F;
+    model.TimeStep = 0.125F;
+    Show(1);
+    EXPECT_EQ(view.lbl_StepNumber.caption, "0.23") << "0.1 in single precision is a little more";
+    model.TimeStart = 0;
+    model.TimeStep = 0.025F;
+    tables.StepValid(7) = true;
+    Show(7);
+    EXPECT_EQ(view.lbl_StepNumber.caption, "0.18");
+}
+
 TEST_F(Stepping, LeavesTheNumberInAModeThatDoesNotExist) {
     view.lbl_StepNumber.caption = "as it was";
     for (const std::int16_t mode : Modes{0, 6, -1}) {

@@ -251,10 +251,10 @@ TEST_F(BinderTest, HidingAndDisablingReachTheWidgets) {
     EXPECT_FALSE(action->isEnabled());
 }
 
-TEST_F(BinderTest, CaptionsAreShownAsPlainTextWithoutBlanksAtLineStarts) {
+TEST_F(BinderTest, CaptionsAreShownAsPlainTextAsTheyStand) {
     label.caption = "\r\n <b>one</b>\r two\n three";
     binder->Push();
-    EXPECT_EQ(label_widget->text(), "<b>one</b>\ntwo\nthree");
+    EXPECT_EQ(label_widget->text(), "\n <b>one</b>\n two\n three");
     EXPECT_EQ(label_widget->textFormat(), Qt::PlainText);
 }
 

@@ -15,36 +15,8 @@ namespace {
 
 class FlowTest : public WindowTest {
   protected:
-    /// Runs the route's stops one after the other, each when the window of its screen has become the active
-    /// one.
-    struct Stop {
-        ScreenId screen;
-        std::function<void(FormWindow& form)> act;
-    };
-
-    void Follow(std::vector<Stop> route) {
-        stops_.assign(route.begin(), route.end());
-        Every_Moment([this] {
-            if (stops_.empty()) return;
-            FormWindow& form = port.Form(stops_.front().screen);
-            if (!form.isVisible() || !form.isActiveWindow()) return;
-            const auto act = stops_.front().act;
-            stops_.pop_front();
-            act(form);
-        });
-    }
-
-    void TearDown() override {
-        EXPECT_TRUE(stops_.empty()) << stops_.size() << " screens did not come";
-        WindowTest::TearDown();
-    }
-
     FormWindow& Home() { return port.Form(ScreenId::frm_HomeScreen); }
-    static void Press(FormWindow& form, const char* name) { Find<QPushButton>(form, name).click(); }
     void Open_Home() { port.Show_Screen(ScreenId::frm_HomeScreen, Modality::Modeless); }
-
-  private:
-    std::deque<Stop> stops_;
 };
 
 TEST_F(FlowTest, FromTheStartThroughACalculationToTheEnd) {

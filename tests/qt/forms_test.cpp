@@ -59,6 +59,7 @@ std::set<std::string> Names(Screens& screens, ScreenId screen) {
             Visit_Controls(screens.frm_Quit, list);
             break;
         case ScreenId::frm_Animate:
+            Visit_Controls(screens.frm_Animate, list);
             break;
     }
     return list.names;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Input screen in the hands of a person.
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -131,11 +132,35 @@ TEST_F(InputWindowTest, TheChainRelabelsTheFieldsAndItsFigure) {
     });
 }
 
-TEST_F(InputWindowTest, WhatHasNoScreenYetSaysSo) {
-    In(ScreenId::frm_Inputnew, [](FormWindow& form) {
+TEST_F(InputWindowTest, ARefusedEntryThatCallsBackIsRefusedOnceByOneLeaving) {
+    In(ScreenId::frm_Inputnew, [this](FormWindow& form) {
+        auto& step = Find<QLineEdit>(form, "txt_Initial_2");
+        step.setFocus();
+        step.setText("0.1");
+        int boxes = 0;
+        for (int i = 0; i < 3; ++i)
+            Await([&](QDialog& dialog) {
+                ++boxes;
+                QTest::keyClick(&dialog, Qt::Key_Return);
+            });
+        // Once for leaving the field, once for the check of the range, once for the last check.
         Click(form, "cmd_Calc");
-        EXPECT_FALSE(Find<QPushButton>(form, "cmd_Animate").isEnabled());
-        EXPECT_FALSE(Find<QPushButton>(form, "cmd_Animate").toolTip().isEmpty());
+        EXPECT_EQ(boxes, 3);
+        EXPECT_TRUE(step.hasFocus());
+        // It stays as it is: leaving it unchanged says nothing new.
+        Click(form, "cmd_Cancel");
+        EXPECT_FALSE(form.isVisible());
+    });
+}
+
+TEST_F(InputWindowTest, TextPutByAnAssistiveToolCountsAsTyped) {
+    In(ScreenId::frm_Inputnew, [this](FormWindow& form) {
+        Find<QLineEdit>(form, "txt_Linkout_1").setText("3.5");
+        Find<QCheckBox>(form, "chk_autocalc").setChecked(true);
+        EXPECT_EQ(screens.frm_Inputnew.txt_Linkout[1].text, "3.5");
+        EXPECT_TRUE(screens.frm_Inputnew.chk_autocalc.on);
+        Click(form, "cmd_Calc");
+        EXPECT_EQ(program->model.Link2, 3.5F);
     });
 }
 

@@ -31,17 +31,29 @@ int Inked(const QImage& image, int column) {
     return count;
 }
 
-TEST(PictureListTest, AnEqualStrokeTakesThePlaceOfTheEarlierOne) {
+TEST(PictureListTest, AStrokeTakesThePlaceOfAnEarlierOneOfItsShape) {
     PictureList list;
     list.Line(0, 0, 1, 1, kMagenta);
     list.Circle(0, 0, 1, kBlue);
-    list.Line(0, 0, 1, 1, kMagenta);
     list.Line(0, 0, 1, 1, kBlue);
     const auto strokes = list.Strokes();
-    ASSERT_EQ(strokes.size(), 3U);
-    EXPECT_EQ(strokes[0].kind, Stroke::Kind::Circle);
-    EXPECT_EQ(strokes[1].colour, kMagenta);
-    EXPECT_EQ(strokes[2].colour, kBlue);
+    ASSERT_EQ(strokes.size(), 2U);
+    EXPECT_EQ(strokes[0].shape.kind, Shape::Kind::Circle);
+    EXPECT_EQ(strokes[1].colour, kBlue);
+}
+
+TEST(PictureListTest, TheColourOfTheBackgroundTakesAShapeAwayAndLeavesWhatItCrosses) {
+    PictureList list;
+    list.Line(0, 0, 1, 1, kMagenta);
+    list.Line(0, 1, 1, 0, kBlue);
+    list.Line(0, 0, 1, 1, {255, 255, 255});
+    list.Line_To(2, 2, kBlue);
+    const auto strokes = list.Strokes();
+    ASSERT_EQ(strokes.size(), 2U);
+    EXPECT_EQ(strokes[0].shape, (Shape{Shape::Kind::Line, 0, 1, 1, 0}));
+    EXPECT_EQ(strokes[1].shape, (Shape{Shape::Kind::Line, 1, 1, 2, 2})) << "it moves the current point";
+    list.Line(0, 0, 1, 1, kMagenta);
+    EXPECT_EQ(list.Strokes().size(), 3U);
 }
 
 TEST(PictureListTest, DrawingTheSameOverAndOverKeepsTheListShort) {
@@ -49,7 +61,7 @@ TEST(PictureListTest, DrawingTheSameOverAndOverKeepsTheListShort) {
     for (int round = 0; round < 5000; ++round)
         for (int line = 0; line < 10; ++line) list.Line(line, 0, line, 1, kBlue);
     EXPECT_EQ(list.Strokes().size(), 10U);
-    EXPECT_EQ(list.Strokes().back().x1, 9);
+    EXPECT_EQ(list.Strokes().back().shape.x1, 9);
 }
 
 TEST(PictureListTest, LinesGoOnFromWhereTheLastDrawingEnded) {
@@ -60,8 +72,8 @@ TEST(PictureListTest, LinesGoOnFromWhereTheLastDrawingEnded) {
     list.Line_To(7, 8, kBlue);
     const auto strokes = list.Strokes();
     ASSERT_EQ(strokes.size(), 4U);
-    EXPECT_EQ(strokes[1], (Stroke{Stroke::Kind::Line, 1, 2, 3, 4, kBlue}));
-    EXPECT_EQ(strokes[3], (Stroke{Stroke::Kind::Line, 5, 6, 7, 8, kBlue}));
+    EXPECT_EQ(strokes[1].shape, (Shape{Shape::Kind::Line, 1, 2, 3, 4}));
+    EXPECT_EQ(strokes[3].shape, (Shape{Shape::Kind::Line, 5, 6, 7, 8}));
 }
 
 TEST(PictureListTest, AChangedWindowClearsThePictureFirst) {

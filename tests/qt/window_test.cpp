@@ -37,6 +37,7 @@ void WindowTest::Every_Moment(const std::function<void()>& look) {
 }
 
 void WindowTest::TearDown() {
+    EXPECT_TRUE(stops_.empty()) << stops_.size() << " screens did not come";
     EXPECT_TRUE(awaited_.empty()) << awaited_.size() << " awaited dialogs did not come";
     port.Set_Pointer(Pointer::Default);
 }
@@ -66,6 +67,22 @@ void WindowTest::In(ScreenId screen, const std::function<void(FormWindow& form)>
 
 void WindowTest::Click(QWidget& form, const char* name) {
     QTest::mouseClick(&Find<QWidget>(form, name), Qt::LeftButton);
+}
+
+void WindowTest::Press(FormWindow& form, const char* name) {
+    Find<QPushButton>(form, name).click();
+}
+
+void WindowTest::Follow(std::vector<Stop> route) {
+    stops_.assign(route.begin(), route.end());
+    Every_Moment([this] {
+        if (stops_.empty()) return;
+        FormWindow& form = port.Form(stops_.front().screen);
+        if (!form.isVisible() || !form.isActiveWindow()) return;
+        const auto act = stops_.front().act;
+        stops_.pop_front();
+        act(form);
+    });
 }
 
 void WindowTest::Type(QWidget& form, const char* name, const QString& text) {

@@ -10,6 +10,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "qt/qt_port.h"
 #include "screens/screens.h"
@@ -38,8 +39,18 @@ class WindowTest : public ::testing::Test {
     static void Click(QWidget& form, const char* name);
     static void Type(QWidget& form, const char* name, const QString& text);
 
+    static void Press(FormWindow& form, const char* name);
+
     /// Runs `look` again and again, also while a window that it opened waits.
     void Every_Moment(const std::function<void()>& look);
+
+    struct Stop {
+        ScreenId screen;
+        std::function<void(FormWindow& form)> act;
+    };
+    /// Runs the route's stops one after the other, each when the window of its screen has become the active
+    /// one. Stops that are never reached fail the test.
+    void Follow(std::vector<Stop> route);
 
     QtPort port;
     std::unique_ptr<Program> program = std::make_unique<Program>(port);
@@ -49,12 +60,13 @@ class WindowTest : public ::testing::Test {
     void Use_Dialog();
 
     std::deque<std::function<void(QDialog&)>> awaited_;
+    std::deque<Stop> stops_;
     QTimer watchdog_;
 };
 
 inline constexpr ScreenId kScreensWithWindow[] = {
-    ScreenId::frm_Title,    ScreenId::frm_Disclaimer, ScreenId::frm_User, ScreenId::frm_HomeScreen,
-    ScreenId::frm_Inputnew, ScreenId::frm_About,      ScreenId::frm_Quit,
+    ScreenId::frm_Title,    ScreenId::frm_Disclaimer, ScreenId::frm_User,  ScreenId::frm_HomeScreen,
+    ScreenId::frm_Inputnew, ScreenId::frm_Animate,    ScreenId::frm_About, ScreenId::frm_Quit,
 };
 
 }  // namespace kervol

@@ -28,7 +28,7 @@ TEST_F(ChainOption, RelabelsTheScreenForAStephensonChain) {
     }
     EXPECT_EQ(Caption(Field_Link5), "Link 5 (C-D)");
     EXPECT_EQ(Caption(Field_Link6), "Link 6 (O6-D)");
-    EXPECT_EQ(input.lbl_Linkout2().caption, "Dist Coup Pt (C-F)");
+    EXPECT_EQ(input.lbl_Linkout2.caption, "Dist Coup Pt (C-F)");
     EXPECT_EQ(input.lbl_directions.caption,
               "See Figure A-13 in Mechanon for definitions of linkage nomenclature");
     EXPECT_FALSE(input.Pnl_Grashof[1].visible);
@@ -47,7 +47,7 @@ TEST_F(ChainOption, RelabelsTheScreenForAWattChain) {
     }
     EXPECT_EQ(Caption(Field_Link5), "Link 5 (D-E)");
     EXPECT_EQ(Caption(Field_Link6), "Link 6 (O6-E)");
-    EXPECT_EQ(input.lbl_Linkout2().caption, "Dist Coup Pt (D-F)");
+    EXPECT_EQ(input.lbl_Linkout2.caption, "Dist Coup Pt (D-F)");
     EXPECT_EQ(input.lbl_directions.caption,
               "See Figure A-12 in Mechanon for definitions of linkage nomenclature");
     EXPECT_TRUE(input.Pnl_Grashof[1].visible);

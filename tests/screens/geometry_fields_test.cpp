@@ -35,6 +35,8 @@ class GeometryFields : public ScreensTest {
         // What follows from nothing that the user gave may be set by the first look.
         model.StepMode = "Y";
         model.ShowCoupler = "Y";
+        // The Animation screen shows the points of an angle sweep and not those of time steps.
+        model.ShowPoints = model.CalcMode == 3 ? "Y" : "N";
         model.ShowTrace = "N";
         model.HideLinks = "N";
         model.DataCalculated = false;
@@ -97,8 +99,8 @@ TEST_F(GeometryFields, LookingAtTheScreenAfterAFreshStartSetsOnlyFlagsAndTexts) 
     const LinkageModel before = model;
     Look_At_Input();
     EXPECT_THAT(Differing_Fields(model, before),
-                IsSubsetOf({"StepMode", "HideLinks", "ShowTrace", "OpenCross1Text", "OpenCross2Text",
-                            "O6O4AngleDeg", "O6O4Angle"}));
+                IsSubsetOf({"StepMode", "HideLinks", "ShowTrace", "ShowPoints", "OpenCross1Text",
+                            "OpenCross2Text", "O6O4AngleDeg", "O6O4Angle"}));
 }
 
 TEST_F(GeometryFields, LookingKeepsEveryDecimalInEveryMode) {

@@ -166,7 +166,7 @@ TEST_F(HomeRules, AUnitSystemRelabelsAndConvertsNothing) {
         EXPECT_EQ(Link(Field_Link3).text, "8.625");
         EXPECT_EQ(input.lbl_Units.at(Field_Link2).caption, lengths[system - 1]);
         EXPECT_EQ(input.lbl_Units.at(Field_O6Y).caption, lengths[system - 1]);
-        EXPECT_EQ(input.lbl_Units.at(Field_Delta5).caption, "deg");
+        EXPECT_EQ(input.lbl_Degrees.at(Field_Delta5).caption, "deg");
     }
 }
 
@@ -226,13 +226,13 @@ TEST_F(HomeRules, EveryButtonAndEntryDoesSomethingOrSaysWhyNot) {
 
 TEST_F(HomeRules, WhatIsNotThereYetSaysSo) {
     for (const Control* control : std::initializer_list<const Control*>{
-             &home.cmd_Animate, &home.cmd_Plot, &home.cmd_Print, &home.cmd_Dynamics, &home.cmd_Flywheel,
+             &home.cmd_Plot, &home.cmd_Print, &home.cmd_Dynamics, &home.cmd_Flywheel,
              &home.mnu_Export_Link_Data, &home.mnu_Export_Torque, &home.mnu_Import_SVA,
-             &home.mnu_Import_Link2_Drive_Data, &home.mnu_CalcFFT, &input.cmd_Animate})
+             &home.mnu_Import_Link2_Drive_Data, &home.mnu_CalcFFT})
         EXPECT_NE(control->unavailable, "");
-    for (const Control* control :
-         std::initializer_list<const Control*>{&home.cmd_Input, &home.cmd_Quit, &home.mnu_Open,
-                                               &home.mnu_Save, &input.cmd_Calc, &input.cmd_Print})
+    for (const Control* control : std::initializer_list<const Control*>{
+             &home.cmd_Input, &home.cmd_Quit, &home.mnu_Open, &home.mnu_Save, &home.cmd_Animate,
+             &input.cmd_Calc, &input.cmd_Animate, &input.cmd_Print})
         EXPECT_EQ(control->unavailable, "");
 }
 

@@ -116,6 +116,7 @@ TEST_F(ReDrawButton, AnImportedDriveIsNotCut) {
         EXPECT_EQ(tables.DriveTheta(2), 90);
         EXPECT_EQ(tables.Omega(2, 0), 10);
         EXPECT_EQ(tables.Theta(2, 0), before);
+        EXPECT_EQ(input.hsc_step.maximum, 2);
         EXPECT_FALSE(model.DataCalculated);
     }
 }
@@ -208,11 +209,11 @@ class LeavingInput : public ScreensTest {
 TEST_F(LeavingInput, NextTakesTheTitle) {
     Type(input.txt_header, "My crank");
     program->animation.CurrentStep = 9;
+    port.opening[ScreenId::frm_Animate] = [&] { EXPECT_EQ(program->animation.CurrentStep, 0); };
     input.cmd_Next.click();
     EXPECT_EQ(model.ModelTitle, "My crank");
-    EXPECT_EQ(program->animation.CurrentStep, 0);
     EXPECT_EQ(model.DesignNumber, 1) << "nothing was edited";
-    EXPECT_EQ(port.trace.front(), "hide frm_Inputnew");
+    EXPECT_THAT(port.trace, ElementsAre("hide frm_Inputnew", "show frm_Animate modal"));
 }
 
 TEST_F(LeavingInput, NextTakesAnEmptyTitleToo) {

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Input screen as it opens, and the events of its fields.
+#include <limits>
+
 #include "screens/input_events.h"
 #include "screens/screens_fixture.h"
 
@@ -174,12 +176,28 @@ TEST_F(InputOpening, TheSettingsOfTheAnimationAreThoseOfTheFile) {
 }
 
 TEST_F(InputOpening, ADelayBeyondTheSpeedBarStandsAtItsEnd) {
-    model.AnimDelay = 40000;
+    for (const std::int32_t delay : {40000, std::numeric_limits<std::int32_t>::max()}) {
+        model.AnimDelay = delay;
+        port.Fill_Screens();
+        EXPECT_EQ(animate.hsc_speed.value, 0);
+    }
+    for (const std::int32_t delay : {-5, std::numeric_limits<std::int32_t>::min()}) {
+        model.AnimDelay = delay;
+        port.Fill_Screens();
+        EXPECT_EQ(animate.hsc_speed.value, 32767);
+    }
+}
+
+TEST_F(InputOpening, OtherTextsOfAFileCountAsTheDrawingTakesThem) {
+    model.HideLinks = "y";
+    model.ShowTrace = "x";
     port.Fill_Screens();
-    EXPECT_EQ(animate.hsc_speed.value, 0);
-    model.AnimDelay = -5;
+    EXPECT_FALSE(animate.chk_Showlinks.on);
+    EXPECT_TRUE(animate.chk_Trace.on);
+    model.HideLinks = model.ShowTrace = "";
     port.Fill_Screens();
-    EXPECT_EQ(animate.hsc_speed.value, 32767);
+    EXPECT_TRUE(animate.chk_Showlinks.on);
+    EXPECT_FALSE(animate.chk_Trace.on);
 }
 
 TEST_F(InputOpening, WithAutocalcItCalculatesAndStaysCalculated) {
@@ -297,6 +315,34 @@ TEST_F(FieldEvents, AFaultEndsTheEventAndNotTheProgram) {
     input.cmd_Next.click();
     Expect_Fault(6, "frm_Input.cmd_Next");
     EXPECT_EQ(model.DesignNumber, 32767);
+}
+
+TEST_F(FieldEvents, ACharacterTypedIntoTheRangeTurnsTheOutputsOffToo) {
+    Type(Initial(2), "5");
+    EXPECT_EQ(Outputs(), "");
+    EXPECT_FALSE(model.DataCalculated);
+}
+
+TEST_F(FieldEvents, ATypedSpeedOutlivesAChangeOfMode) {
+    Edit(Initial(3), "88");
+    Choose(input.opt_Calctype, 2);
+    EXPECT_EQ(model.Omega2Start, 88);
+    EXPECT_EQ(Initial(3).text, "88");
+    Edit(Initial(5), "45");
+    Edit(Initial(4), "-2");
+    Choose(input.opt_Calctype, 1);
+    EXPECT_EQ(model.Theta2One, 45);
+    EXPECT_EQ(model.Alpha2Const, -2);
+    EXPECT_EQ(Initial(5).text, "45");
+}
+
+TEST_F(FieldEvents, TheOnePositionIsMirroredOnBothScreens) {
+    Choose(input.opt_Calctype, 1);
+    Edit(Initial(5), "33");
+    input.cmd_Calc.click();
+    for (const LinkageScreen* screen :
+         {static_cast<LinkageScreen*>(&input), static_cast<LinkageScreen*>(&animate)})
+        for (const std::size_t field : {0U, 1U}) EXPECT_EQ(screen->txt_Initial.at(field).text, "33");
 }
 
 TEST_F(FieldEvents, AutoscaleOffBeforeAnyWindowIsReported) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "core/arithmetic.h"
 #include "core/fault.h"
 #include "core/geometry.h"
 #include "screens/input_events.h"
@@ -145,6 +146,12 @@ void ScreensTest::Calculate_In_Mode(std::int16_t mode) {
     input.cmd_Calc.click();
 }
 
+void ScreensTest::Animate_In_Mode(std::int16_t mode) {
+    if (mode > 3) Put_Imported_Drive(mode);
+    Calculate_In_Mode(mode);
+    Open_Animate();
+}
+
 void ScreensTest::Type(TextField& field, std::string_view text) {
     field.text = text;
     field.put_value.reset();
@@ -157,8 +164,12 @@ void ScreensTest::Edit(TextField& field, std::string_view text) {
 }
 
 void ScreensTest::Move_Bar(int step) {
-    input.hsc_step.value = step;
-    input.hsc_step.change();
+    Move_Bar(input.hsc_step, step);
+}
+
+void ScreensTest::Move_Bar(ScrollBar& bar, int step) {
+    bar.value = step;
+    bar.change();
 }
 
 std::vector<std::string> ScreensTest::Initial_Texts(std::size_t count) const {
@@ -167,24 +178,58 @@ std::vector<std::string> ScreensTest::Initial_Texts(std::size_t count) const {
     return texts;
 }
 
+void ScreensTest::Add_If_On(std::string& names, const Button& button, const char* name) {
+    if (button.enabled) names += (names.empty() ? "" : " ") + std::string(name);
+}
+
 std::string ScreensTest::Outputs() const {
     std::string on;
-    const auto add = [&](const Button& button, const char* name) {
-        if (button.enabled) on += (on.empty() ? "" : " ") + std::string(name);
-    };
-    add(input.cmd_Next, "Next");
-    add(input.cmd_Step, "Step");
-    add(input.cmd_Animate, "Animate");
-    add(input.cmd_Reset, "Reset");
-    add(input.cmd_Print, "Print");
-    add(input.cmd_Draw, "ReDraw");
+    Add_If_On(on, input.cmd_Next, "Next");
+    Add_If_On(on, input.cmd_Step, "Step");
+    Add_If_On(on, input.cmd_Animate, "Animate");
+    Add_If_On(on, input.cmd_Reset, "Reset");
+    Add_If_On(on, input.cmd_Print, "Print");
+    Add_If_On(on, input.cmd_Draw, "ReDraw");
     return on;
 }
 
-std::vector<Drawn> ScreensTest::Standing() const {
-    const auto last = std::find_if(picture.drawn.rbegin(), picture.drawn.rend(),
+std::string ScreensTest::Animate_Outputs() const {
+    std::string on;
+    Add_If_On(on, animate.cmd_Done, "Next");
+    Add_If_On(on, animate.cmd_Step, "Step");
+    Add_If_On(on, animate.cmd_Run, "Run");
+    Add_If_On(on, animate.cmd_Reset, "Reset");
+    Add_If_On(on, animate.cmd_Copy, "Print");
+    return on;
+}
+
+std::vector<Drawn> ScreensTest::Standing_On(const RecordingPicture& shown) {
+    const auto last = std::find_if(shown.drawn.rbegin(), shown.drawn.rend(),
                                    [](const Drawn& drawn) { return drawn.kind == Drawn::Kind::Clear; });
-    return {last.base(), picture.drawn.end()};
+    return {last.base(), shown.drawn.end()};
+}
+
+std::vector<int> ScreensTest::Rows_In(const std::vector<Drawn>& drawings) const {
+    std::vector<int> rows;
+    double y0 = program->animation.PlotY0;
+    for (const Drawn& drawn : drawings) {
+        if (drawn.kind == Drawn::Kind::Scale) y0 = Single(drawn.x1 + drawn.x2);
+        const bool crank = drawn.kind == Drawn::Kind::Line && drawn.colour == Colour{255, 0, 255} &&
+                           Is_Zero(drawn.x1) && Is_Same(drawn.y1, y0);
+        if (!crank) continue;
+        int row = 0;
+        while (row <= model.NumSteps && !(Is_Same(drawn.x2, tables.PointPos(row, 0, 0)) &&
+                                          Is_Same(drawn.y2, y0 - tables.PointPos(row, 0, 1))))
+            ++row;
+        rows.push_back(row <= model.NumSteps ? row : -1);
+    }
+    return rows;
+}
+
+std::vector<int> ScreensTest::Rows_Drawn() {
+    const std::vector<int> rows = Rows_In(animate_picture.drawn);
+    animate_picture.drawn.clear();
+    return rows;
 }
 
 void ScreensTest::Put_Limited_Linkage() {

@@ -68,6 +68,12 @@ class ScreensTest : public ::testing::Test {
     /// Opens the Input screen and calculates.
     void Calculate_In_Mode(std::int16_t mode);
 
+    /// Opens the Animation screen.
+    void Open_Animate() { port.Show_Screen(ScreenId::frm_Animate, Modality::Modal); }
+    /// Opens the Input screen in a mode of the drive, an imported one of three rows, calculates, and goes on to
+    /// the Animation screen.
+    void Animate_In_Mode(std::int16_t mode);
+
     /// Types into a field, one change for the whole text, and stays in it.
     static void Type(TextField& field, std::string_view text);
     /// Types into a field and leaves it.
@@ -82,6 +88,7 @@ class ScreensTest : public ::testing::Test {
     }
     /// Moves the step bar.
     void Move_Bar(int step);
+    static void Move_Bar(ScrollBar& bar, int step);
 
     TextField& Link(LinkField field) { return input.txt_Linkout.at(field); }
     TextField& Initial(std::size_t field) { return input.txt_Initial.at(field); }
@@ -89,10 +96,19 @@ class ScreensTest : public ::testing::Test {
     std::vector<std::string> Initial_Texts(std::size_t count = 3) const;
     /// Which of the output buttons are on: of Next, Step, Animate, Reset, Print, ReDraw.
     std::string Outputs() const;
+    /// The same of the Animation screen: of Next, Step, Run, Reset, Print.
+    std::string Animate_Outputs() const;
 
     /// What was drawn on the Input screen behind its last clearing.
-    std::vector<Drawn> Standing() const;
+    std::vector<Drawn> Standing() const { return Standing_On(picture); }
     bool Picture_Is_Clear() const { return Standing().empty(); }
+    /// The same of any picture.
+    static std::vector<Drawn> Standing_On(const RecordingPicture& shown);
+    /// The rows whose crank stands in these drawings, in their order, told by its end; -1 for no row. Ground
+    /// link along x.
+    std::vector<int> Rows_In(const std::vector<Drawn>& drawings) const;
+    /// The rows that were drawn on the Animation screen since the last call.
+    std::vector<int> Rows_Drawn();
 
     /// Stage 1 turns from 0 to 82.8 and from 277.2 to 360 degrees only, and is non-Grashof.
     void Put_Limited_Linkage();
@@ -110,6 +126,8 @@ class ScreensTest : public ::testing::Test {
     RecordingPicture picture, animate_picture;
 
   private:
+    static void Add_If_On(std::string& names, const Button& button, const char* name);
+
     std::size_t taken_ = 0;
 };
 
