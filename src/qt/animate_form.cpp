@@ -81,6 +81,8 @@ QGroupBox* New_Range() {
     range->setObjectName("cmb_wait");
     range->setEditable(true);
     range->setInsertPolicy(QComboBox::NoInsert);
+    // Or 5 would become 50.
+    range->setCompleter(nullptr);
     range->setAccessibleName("Range of the speed");
     range->setToolTip("How long each position stands, in multiples: more is slower.");
     column->addWidget(range);

@@ -256,21 +256,16 @@ void Binder::Push() {
 void Binder::Leave_Field() {
     if (entered_.record == nullptr || pushing_) return;
     const Field left = std::exchange(entered_, {});
-    leaving_ = true;
     run_(left.record->lost_focus);
-    leaving_ = false;
 }
 
 void Binder::Set_Focus(std::string_view name) {
     auto* widget = form_.findChild<QWidget*>(Qt_Text(std::string(name)));
     if (widget == nullptr) return;
+    placing_ = true;
     widget->setFocus(Qt::OtherFocusReason);
-    auto* edit = qobject_cast<QLineEdit*>(widget);
-    if (edit == nullptr) return;
-    edit->selectAll();
-    const auto field =
-        std::find_if(fields_.begin(), fields_.end(), [&](const Field& f) { return f.widget == edit; });
-    if (field != fields_.end() && !leaving_) entered_ = *field;
+    placing_ = false;
+    if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
 }
 
 bool Binder::Field_Event(const Field& field, QEvent* event) {
@@ -279,8 +274,8 @@ bool Binder::Field_Event(const Field& field, QEvent* event) {
         return true;
     }
     if (event->type() == QEvent::FocusIn && !Is_Passing(*event)) {
-        // A refused entry that calls the user back is refused once, not again by the click that left it.
-        if (!leaving_) entered_ = field;
+        // Called back to a refused entry, the user may also leave it as it stands: it is not refused again.
+        if (!placing_) entered_ = field;
         field.widget->selectAll();
         // The press that brings the focus sets the cursor and so ends the selection.
         clicked_in_ = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;

@@ -88,7 +88,7 @@ class Binder : public QObject {
     std::vector<Field> fields_;
     Field entered_;
     bool pushing_ = false;
-    bool leaving_ = false;     ///< the lost focus of a field is being dealt with
+    bool placing_ = false;     ///< the program moves the focus
     bool clicked_in_ = false;  ///< the mouse button that brought a field the focus is still down
     bool scrolled_ = false;    ///< the thumb of a bar is held and has moved
 };

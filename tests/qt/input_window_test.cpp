@@ -146,7 +146,7 @@ TEST_F(InputWindowTest, ARefusedEntryThatCallsBackIsRefusedOnceByOneLeaving) {
         // Once for leaving the field, once for the check of the range, once for the last check.
         Click(form, "cmd_Calc");
         EXPECT_EQ(boxes, 3);
-        EXPECT_TRUE(step.hasFocus());
+        EXPECT_EQ(form.focusWidget(), &step);
         // It stays as it is: leaving it unchanged says nothing new.
         Click(form, "cmd_Cancel");
         EXPECT_FALSE(form.isVisible());
