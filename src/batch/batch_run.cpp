@@ -7,15 +7,27 @@
 #include <utility>
 
 #include "core/fault.h"
+#include "dynamics/solve_forces.h"
 #include "kinematics/examples.h"
 #include "startup/launch.h"
 
 namespace kervol {
 namespace {
 
-/// How to mend what a fault number tells.
-std::string_view Remedy(std::int32_t number) {
-    static constexpr auto kRemedies = std::to_array<std::pair<std::int32_t, std::string_view>>({
+/// How to mend a fault, of any procedure where none is named.
+struct RemedyEntry {
+    std::int32_t number;
+    std::string_view text;
+    std::string_view procedure = {};
+};
+
+constexpr std::string_view kTooManyPulses =
+    "the crank torque has more pulses than the table holds, ten of each sign; reduce the range to one cycle";
+
+std::string_view Remedy(const ReportedFault& fault) {
+    static constexpr auto kRemedies = std::to_array<RemedyEntry>({
+        {fault::Subscript, kTooManyPulses, "Flywheel"},
+        {fault::Subscript, kTooManyPulses, "Crank_Torque_Areas"},
         {fault::Overflow, "a number there is too large"},
         {fault::Subscript, "there are more rows than the tables hold; reduce the number of steps"},
         {fault::DivisionByZero,
@@ -30,9 +42,11 @@ std::string_view Remedy(std::int32_t number) {
         {fault::PathFileAccess, "name a plain file, not a folder or device"},
         {fault::PathNotFound, "check the folder"},
     });
-    const auto* found = std::find_if(kRemedies.begin(), kRemedies.end(),
-                                     [&](const auto& entry) { return entry.first == number; });
-    return found == kRemedies.end() ? "check the model" : found->second;
+    const auto* found = std::find_if(kRemedies.begin(), kRemedies.end(), [&](const RemedyEntry& entry) {
+        return entry.number == fault.number &&
+               (entry.procedure.empty() || entry.procedure == fault.procedure);
+    });
+    return found == kRemedies.end() ? "check the model" : found->text;
 }
 
 }  // namespace
@@ -64,10 +78,23 @@ void BatchRun::Calculate() {
     end_ = Calculate_Model(*program_);
 }
 
+void BatchRun::Add_Dynamics() {
+    if (end_ == CalculationEnd::Done) solved_steps_ = Run_Dynamics(*program_);
+}
+
+void BatchRun::Add_Flywheel() {
+    if (solved_steps_) Size_Flywheel(*program_, flywheel_);
+}
+
+bool BatchRun::Forces_Stopped() const {
+    return solved_steps_ && *solved_steps_ <= program_->model.NumSteps;
+}
+
 ExitCode BatchRun::Outcome() const {
     if (read_.end != ReadEnd::Whole || !program_->faults.entries.empty()) return Failed;
     if (end_ != CalculationEnd::Done) return GivenUp;
-    return program_->model.SomeStepFailed ? SomeFailed : Done;
+    if (program_->model.SomeStepFailed) return SomeFailed;
+    return Forces_Stopped() ? GivenUp : Done;
 }
 
 std::string BatchRun::Complaint() const {
@@ -78,8 +105,8 @@ std::string BatchRun::Complaint() const {
 }
 
 std::string BatchRun::Write_Complaint(const std::string& path) const {
-    const std::int32_t number = program_->faults.entries.back().number;
-    return path + ": " + std::string(Fault_Description(number)) + ": " + std::string(Remedy(number));
+    const ReportedFault& fault = program_->faults.entries.back();
+    return path + ": " + std::string(Fault_Description(fault.number)) + ": " + std::string(Remedy(fault));
 }
 
 std::string BatchRun::Reading_Complaint() const {
@@ -97,7 +124,7 @@ std::string BatchRun::Fault_Complaint() const {
     text += Fault_Description(first.number);
     if (read_.end == ReadEnd::Whole) text += " in " + first.procedure;
     if (faults.size() > 1) text += ", the first of " + std::to_string(faults.size()) + " faults";
-    return text + ": " + std::string(Remedy(first.number));
+    return text + ": " + std::string(Remedy(first));
 }
 
 std::string BatchRun::Calculation_Complaint() const {
@@ -108,12 +135,19 @@ std::string BatchRun::Calculation_Complaint() const {
     if (end_ == CalculationEnd::NoMode)
         return "refused: drive mode " + std::to_string(model.CalcMode) +
                " is none of 1 to 5; mend line 39 of the file";
+    if (!model.SomeStepFailed) return Forces_Complaint();
     int failed = 0;
     for (int step = 0; step <= std::min<int>(model.NumSteps, MaxSteps); ++step)
         if (!program_->tables.StepValid(step)) ++failed;
     if (failed == 0) return "a position beyond the end of the range did not assemble; all steps did";
     return std::to_string(failed) + " of " + std::to_string(model.NumSteps + 1) +
-           " steps do not assemble and are zero; \"kervol-batch info\" lists them";
+           " steps do not assemble and are zero" + (Forces_Stopped() ? "; " + Forces_Complaint() : "") +
+           "; \"kervol-batch info\" lists them";
+}
+
+std::string BatchRun::Forces_Complaint() const {
+    return "the force equations of step " + std::to_string(*solved_steps_) +
+           " have no solution, so there are no forces from there on";
 }
 
 }  // namespace kervol

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "core/program.h"
+#include "dynamics/crank_torque_areas.h"
 #include "files/model_file.h"
 #include "headless/recording_port.h"
 #include "kinematics/step_count.h"
@@ -30,6 +32,10 @@ class BatchRun {
     /// A fresh start followed by the example. False where there is none of that name.
     bool Load(const std::string& example);
     void Calculate();
+    /// The forces of every step with the model's own link data; nothing where its motion was not calculated.
+    void Add_Dynamics();
+    /// The flywheel for the crank torque of `Add_Dynamics`.
+    void Add_Flywheel();
 
     /// Nothing to complain about is `Done`; else the gravest of what happened.
     ExitCode Outcome() const;
@@ -40,18 +46,26 @@ class BatchRun {
     std::string Write_Complaint(const std::string& path) const;
 
     Program& program() { return *program_; }
+    /// How many steps `Add_Dynamics` solved; nothing before it.
+    std::optional<int> solved_steps() const { return solved_steps_; }
+    const CrankTorqueAreas& crank_torque_areas() const { return flywheel_.areas; }
     const RecordingPort& port() const { return port_; }
 
   private:
     std::string Reading_Complaint() const;
     std::string Fault_Complaint() const;
     std::string Calculation_Complaint() const;
+    /// Whether a singular step ended the forces.
+    bool Forces_Stopped() const;
+    std::string Forces_Complaint() const;
 
     RecordingPort port_;
     std::unique_ptr<Program> program_;
     std::string source_;
     ReadReport read_{ReadEnd::Whole, 0};
     CalculationEnd end_ = CalculationEnd::Done;
+    std::optional<int> solved_steps_;
+    FlywheelSizing flywheel_;
 };
 
 }  // namespace kervol

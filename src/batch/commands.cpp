@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <exception>
 #include <map>
 #include <sstream>
@@ -12,6 +13,7 @@
 #include "batch/batch_run.h"
 #include "batch/summary.h"
 #include "batch/tables_json.h"
+#include "core/number_text.h"
 #include "core/path_text.h"
 #include "core/report.h"
 #include "core/text_encoding.h"
@@ -34,6 +36,9 @@ struct Arguments {
     std::string example;
     std::string output;
     std::string on_failure = "ignore";
+    bool dynamics = false;
+    bool flywheel = false;
+    float fluctuation = 0;  ///< 0 where none was given
 };
 
 class Commands {
@@ -51,6 +56,8 @@ class Commands {
 
   private:
     static bool Take_Model(BatchRun& run, const Arguments& arguments);
+    /// The tables that were asked for beside the kinematic ones.
+    static FurtherTables Add_Further(BatchRun& run, const Arguments& arguments);
     int Close(const BatchRun& run);
     int Save(BatchRun& run, const std::string& path);
 
@@ -79,11 +86,24 @@ bool Commands::Take_Model(BatchRun& run, const Arguments& arguments) {
     return arguments.example.empty() ? run.Open(arguments.model) : run.Load(arguments.example);
 }
 
+FurtherTables Commands::Add_Further(BatchRun& run, const Arguments& arguments) {
+    FurtherTables further;
+    further.dynamics = arguments.dynamics;
+    if (arguments.dynamics || arguments.flywheel) run.Add_Dynamics();
+    if (arguments.flywheel) {
+        if (arguments.fluctuation > 0) Take_Coef_Fluct(run.program().model, arguments.fluctuation);
+        run.Add_Flywheel();
+        further.flywheel = &run.crank_torque_areas();
+    }
+    return further;
+}
+
 int Commands::Tables(const Arguments& arguments) {
     BatchRun run(kOnFailure.at(arguments.on_failure));
     if (!Take_Model(run, arguments)) return Close(run);
     run.Calculate();
-    const std::string json = Tables_Json(run.program(), run.port());
+    const FurtherTables further = Add_Further(run, arguments);
+    const std::string json = Tables_Json(run.program(), run.port(), further);
     if (arguments.output.empty()) return Print(json) ? Close(run) : Failed;
     const bool written = Procedure(run.program(), "tables", [&] {
         OutputFile file(arguments.output);
@@ -97,7 +117,8 @@ int Commands::Info(const Arguments& arguments) {
     BatchRun run(Answer::Ignore);
     if (!Take_Model(run, arguments)) return Close(run);
     run.Calculate();
-    return Print(Summary(run.program())) ? Close(run) : Failed;
+    run.Add_Dynamics();
+    return Print(Summary(run.program(), run.solved_steps())) ? Close(run) : Failed;
 }
 
 int Commands::Convert(const Arguments& arguments) {
@@ -124,21 +145,23 @@ struct LaterOption {
     const char* value;
 };
 constexpr auto kLaterOptions = std::to_array<LaterOption>({
-    {"--dynamics", nullptr},
-    {"--flywheel", nullptr},
-    {"--fluct", "X"},
     {"--fft", "FUNCTION"},
     {"--component", "X|Y|Mag|Ang"},
 });
 
 void Add_Later_Options(CLI::App& command) {
-    for (const LaterOption& later : kLaterOptions) {
-        const std::string help = "not available yet";
-        if (later.value == nullptr)
-            command.add_flag(later.name, help);
-        else
-            command.add_option(later.name, help)->type_name(later.value)->expected(1);
-    }
+    for (const LaterOption& later : kLaterOptions)
+        command.add_option(later.name, "not available yet")->type_name(later.value)->expected(1);
+}
+
+/// The number that the text is as a whole; refused unless it is a positive single.
+float Fluctuation(const std::string& text) {
+    const bool is_number = !text.empty() && Number_Length(text) == text.size();
+    const double value = is_number ? To_Double(text) : 0.0;
+    const auto single = static_cast<float>(value);
+    if (!(single > 0) || !std::isfinite(single))
+        throw CLI::ValidationError("--fluct", "\"" + text + "\" is no number above 0; try 0.05");
+    return single;
 }
 
 std::vector<std::string> Example_Names() {
@@ -164,6 +187,18 @@ CLI::Option* Add_Output(CLI::App& command, Arguments& arguments, const char* hel
         ->check([](const std::string& name) { return name.empty() ? "needs the name of a file" : ""; });
 }
 
+void Add_Dynamics(CLI::App& command, Arguments& arguments) {
+    command.add_flag("--dynamics", arguments.dynamics, "forces and torques too, with the model's link data");
+    auto* flywheel = command.add_flag("--flywheel", arguments.flywheel,
+                                      "pulses of the crank torque and the torque with a flywheel too");
+    command
+        .add_option_function<std::string>(
+            "--fluct", [&](const std::string& text) { arguments.fluctuation = Fluctuation(text); },
+            "coefficient of fluctuation of the flywheel, above 0 [0.05]")
+        ->needs(flywheel)
+        ->type_name("X");
+}
+
 void Add_Commands(CLI::App& app, Arguments& arguments) {
     auto* tables = app.add_subcommand("tables", "Calculate a model and write all tables as JSON");
     Add_Source(*tables, arguments);
@@ -171,6 +206,7 @@ void Add_Commands(CLI::App& app, Arguments& arguments) {
         ->check(CLI::IsMember({"abort", "retry", "ignore"}))
         ->type_name("ANSWER")
         ->capture_default_str();
+    Add_Dynamics(*tables, arguments);
     Add_Output(*tables, arguments, "write there instead of to standard output");
     Add_Later_Options(*tables);
 
@@ -208,7 +244,7 @@ int Run_Command(Commands& commands, const CLI::App& app, const Arguments& argume
 int Run_Commands(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
     LinkageModel identity;
     Set_Program_Values(identity);
-    CLI::App app("Kinematics of planar six-bar linkages, without a display.", "kervol-batch");
+    CLI::App app("Kinematics and dynamics of planar six-bar linkages, without a display.", "kervol-batch");
     app.set_version_flag("--version", identity.ProgramTitle + " " + identity.VersionText + ", Rev. " +
                                           identity.ReleaseText + " (" + identity.ProgramDate + ")");
     app.require_subcommand(1);

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <cmath>
 #include <iomanip>
 #include <sstream>
 #include <string_view>
@@ -107,6 +109,64 @@ void Put_Classes(Out& out, const LinkageModel& model) {
     if (model.LinkageType == "W") Put_Line(out, "Stage 2", Class_Text(model.StageText(1), model.Stage2Class));
 }
 
+/// In four digits, which is as much as a summary is read for.
+std::string Short_Number(double value) {
+    std::array<char, 32> text;
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, 4);
+    return Plain_Number(To_Double({text.data(), static_cast<std::size_t>(end.ptr - text.data())}));
+}
+
+/// Least and greatest value over the solved steps that assemble: "-1.2 at step 3 to 4 at step 20".
+template <class Value>
+std::string Range_Text(const ResultTables& tables, int solved_steps, Value&& value) {
+    int low = -1, high = -1;
+    for (int step = 0; step < solved_steps; ++step) {
+        if (!tables.StepValid(step)) continue;
+        if (low < 0 || value(step) < value(low)) low = step;
+        if (high < 0 || value(step) > value(high)) high = step;
+    }
+    if (low < 0) return {};
+    return Short_Number(value(low)) + " at step " + std::to_string(low) + " to " + Short_Number(value(high)) +
+           " at step " + std::to_string(high);
+}
+
+struct ForceLine {
+    std::string_view label;  ///< the one of the Watt chain
+    std::string_view stephenson_label;
+    int entry;  ///< of `ForceTable`
+};
+
+constexpr std::array<ForceLine, 8> kForces = {{
+    {"Force at O2", "Force at O2", 5},
+    {"Force at A", "Force at A", 0},
+    {"Force at B", "Force at B", 1},
+    {"Force at O4", "Force at O4", 6},
+    {"Force at D", "Force at C", 8},
+    {"Force at E", "Force at D", 9},
+    {"Force at O6", "Force at O6", 10},
+    {"Shaking force", "Shaking force", 7},
+}};
+
+void Put_Forces(Out& out, const Program& program, int solved_steps) {
+    const ResultTables& tables = program.tables;
+    const LinkageModel& model = program.model;
+    const std::string torque =
+        Range_Text(tables, solved_steps, [&](int step) { return double(tables.TorqueTable(step, 0)); });
+    if (torque.empty()) return Put_Line(out, "Forces", "none; no step that assembles could be solved");
+    Put_Line(out, "Driving torque", torque + " " + model.UnitText(9));
+    for (const ForceLine& line : kForces) {
+        const std::string force = Range_Text(tables, solved_steps, [&](int step) {
+            const auto& vector = tables.ForceTable(step, line.entry);
+            return std::hypot(double(vector(0)), double(vector(1)));
+        });
+        Put_Line(out, model.LinkageType == "S" ? line.stephenson_label : line.label,
+                 force + " " + model.UnitText(10));
+    }
+    if (solved_steps <= model.NumSteps)
+        Put_Line(out, "Forces not solved", "from step " + std::to_string(solved_steps) + " on");
+}
+
 struct MotionColumn {
     std::string_view name, unit;
     float (*value)(const ResultTables&, int step);
@@ -145,7 +205,7 @@ void Put_Motion(Out& out, const ResultTables& tables, int last) {
 
 }  // namespace
 
-std::string Summary(const Program& program) {
+std::string Summary(const Program& program, std::optional<int> solved_steps) {
     const LinkageModel& model = program.model;
     const int last = std::min<int>(model.NumSteps, MaxSteps);
     Out out;
@@ -156,6 +216,7 @@ std::string Summary(const Program& program) {
     Put_Line(out, "Drive", Drive_Text(model));
     Put_Line(out, "Steps", std::to_string(std::max(last + 1, 0)));
     Put_Line(out, "Steps not assembled", Failed_Steps(program.tables, last));
+    if (solved_steps) Put_Forces(out, program, *solved_steps);
     Put_Motion(out, program.tables, last);
     return out.str();
 }

@@ -47,9 +47,24 @@ void Put_Rows(JsonWriter& json, std::string_view name, const StepTable& table, i
     json.End_List();
 }
 
+void Put_Flywheel(JsonWriter& json, const CrankTorqueAreas& areas) {
+    json.Key("Flywheel");
+    json.Begin_Object();
+    json.Member("Average", areas.Average);
+    json.Member("FirstSign", areas.FirstSign);
+    json.Member("PosArea", areas.PosArea);
+    json.Member("NegArea", areas.NegArea);
+    json.Member("NPulses", areas.NPulses);
+    json.Key("Text");
+    json.Begin_List();
+    for (const std::string& line : areas.Text) json.Value(line);
+    json.End_List();
+    json.End_Object();
+}
+
 }  // namespace
 
-std::string Tables_Json(const Program& program, const RecordingPort& port) {
+std::string Tables_Json(const Program& program, const RecordingPort& port, const FurtherTables& further) {
     const LinkageModel& model = program.model;
     const ResultTables& tables = program.tables;
     const int last = std::min<int>(model.NumSteps, MaxSteps);
@@ -74,6 +89,14 @@ std::string Tables_Json(const Program& program, const RecordingPort& port) {
     Put_Rows(json, "PointAcc", tables.PointAcc, last);
     Put_Rows(json, "VelRatio", tables.VelRatio, last);
     Put_Rows(json, "MechAdv", tables.MechAdv, last);
+    if (further.dynamics) {
+        Put_Rows(json, "ForceTable", tables.ForceTable, last);
+        Put_Rows(json, "TorqueTable", tables.TorqueTable, last);
+    }
+    if (further.flywheel != nullptr) {
+        Put_Rows(json, "FlywheelTorque", tables.FlywheelTorque, last);
+        Put_Flywheel(json, *further.flywheel);
+    }
     json.End_Object();
     return json.Text() + "\n";
 }

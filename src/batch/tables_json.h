@@ -5,10 +5,17 @@
 #include <string>
 
 #include "core/program.h"
+#include "dynamics/crank_torque_areas.h"
 #include "headless/recording_port.h"
 
 namespace kervol {
 
-std::string Tables_Json(const Program& program, const RecordingPort& port);
+/// What stands behind the kinematic tables where it was asked for.
+struct FurtherTables {
+    bool dynamics = false;
+    const CrankTorqueAreas* flywheel = nullptr;
+};
+
+std::string Tables_Json(const Program& program, const RecordingPort& port, const FurtherTables& further);
 
 }  // namespace kervol

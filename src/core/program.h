@@ -11,6 +11,7 @@
 
 #include "core/animation_state.h"
 #include "core/catalogue_names.h"
+#include "core/matrix_display.h"
 #include "core/model.h"
 #include "core/port.h"
 #include "core/result_tables.h"
@@ -38,6 +39,7 @@ struct Program {
     ResultTables tables;
     AnimationState animation;
     CatalogueNames catalogue;
+    MatrixDisplay matrix;  ///< filled by `Matrix_Fill`
     FaultLog faults;
     Port& port;
 };

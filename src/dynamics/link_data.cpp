@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dynamics/link_data.h"
 
+#include <cmath>
+
 #include "core/arithmetic.h"
 
 namespace kervol {
@@ -23,6 +25,22 @@ void Default_Mass_Properties(LinkageModel& model) {
     }
     model.LinkCG(3, 0) = model.CouplerAC;
     model.LinkCG(3, 1) = model.Delta3;
+}
+
+double CG_Angle_Degrees(const LinkageModel& model, int link) {
+    return model.LinkCG(link, 1) * DegreesPerRadian;
+}
+
+void Set_CG_Angle(LinkageModel& model, int link, double degrees) {
+    model.LinkCG(link, 1) = Single(degrees * RadiansPerDegree);
+}
+
+void Resolve_External_Forces(LinkageModel& model) {
+    for (int link = 3; link <= NumLinks; ++link) {
+        const double angle = model.ForceAngle(link) * RadiansPerDegree;
+        model.ForceX(link) = Single(model.ForceMag(link) * std::cos(angle));
+        model.ForceY(link) = Single(model.ForceMag(link) * std::sin(angle));
+    }
 }
 
 }  // namespace kervol

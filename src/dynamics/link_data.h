@@ -10,4 +10,13 @@ namespace kervol {
 /// geometry. The centre of gravity of a link is its middle, of the coupler it is coupler point 1.
 void Default_Mass_Properties(LinkageModel& model);
 
+/// Direction of a link's centre of gravity from its line of centres, held in radians, as a person gives and
+/// sees it: in degrees.
+double CG_Angle_Degrees(const LinkageModel& model, int link);
+void Set_CG_Angle(LinkageModel& model, int link, double degrees);
+
+/// Writes `ForceX` and `ForceY` of links 3 to 6 from `ForceMag` and `ForceAngle`. Deliberate: the angle,
+/// given in the user frame, is taken in the local one as it is.
+void Resolve_External_Forces(LinkageModel& model);
+
 }  // namespace kervol

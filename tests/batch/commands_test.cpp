@@ -103,8 +103,7 @@ TEST(WrongUse, EndsWithExitCode1AndOneLine) {
 }
 
 TEST(WrongUse, OptionsOfLaterReleasesSayThatTheyAreNotThereYet) {
-    const std::vector<std::string> cases[] = {
-        {"--dynamics"}, {"--flywheel"}, {"--fluct", "0.05"}, {"--fft", "Theta4"}, {"--component", "Mag"}};
+    const std::vector<std::string> cases[] = {{"--fft", "Theta4"}, {"--component", "Mag"}};
     for (const auto& option : cases) {
         std::vector<std::string> arguments = {"tables", "--example", "watt"};
         arguments.insert(arguments.end(), option.begin(), option.end());
@@ -116,12 +115,26 @@ TEST(WrongUse, OptionsOfLaterReleasesSayThatTheyAreNotThereYet) {
     }
 }
 
+TEST(WrongUse, ACoefficientOfFluctuationMustBeANumberAboveZeroForAFlywheel) {
+    for (const char* text : {"0", "-0.5", "", "x", "0.05x", "nan", "inf", "0x1", "1e99", "1e-99"}) {
+        const CommandRun run = Batch({"tables", "--example", "watt", "--flywheel", "--fluct", text});
+        EXPECT_EQ(run.code, 1) << text;
+        EXPECT_EQ(run.out, "") << text;
+        Expect_One_Line(run.err);
+        EXPECT_THAT(run.err, HasSubstr("is no number above 0")) << text;
+    }
+    const CommandRun alone = Batch({"tables", "--example", "watt", "--fluct", "0.1"});
+    EXPECT_EQ(alone.code, 1);
+    EXPECT_THAT(alone.err, HasSubstr("requires --flywheel"));
+}
+
 TEST(ExitCode, IsZeroWithoutAComplaintWhereAllIsWell) {
     const TemporaryFolder folder;
     const std::string model = Model_File(folder, "a.kvl", [](Program&) {});
     for (const auto& arguments : {std::vector<std::string>{"tables", model},
                                   {"info", model},
                                   {"tables", "--example", "hoeken"},
+                                  {"tables", "--example", "hoeken", "--dynamics", "--flywheel"},
                                   {"info", "--example", "roberts"},
                                   {"convert", model, folder / "b.kvl"},
                                   {"example", "double-dwell", "-o", folder / "c.kvl"},

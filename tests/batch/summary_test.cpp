@@ -2,6 +2,10 @@
 // The readable summary of a model.
 #include "batch/summary.h"
 
+#include <cmath>
+#include <sstream>
+#include <utility>
+
 #include "batch/command_run.h"
 
 #include <gmock/gmock.h>
@@ -112,6 +116,81 @@ TEST(Summary, UsesTheUnitsOfTheModelAndItsNameWhereItHasNoTitle) {
     const std::string text = Batch({"info", path}).out;
     EXPECT_THAT(text, StartsWith("untitled\n"));
     EXPECT_EQ(Value_Of(text, "Link 2 (O2-A)"), "2 mm");
+}
+
+/// The least and the greatest value of a line "L at step I to H at step J unit".
+struct Extremes {
+    double low = 0, high = 0;
+    int low_step = -1, high_step = -1;
+    std::string unit;
+};
+Extremes Extremes_Of(const std::string& text, const std::string& label) {
+    Extremes extremes;
+    std::string word;
+    std::istringstream line(Value_Of(text, label));
+    line >> extremes.low >> word >> word >> extremes.low_step >> word >> extremes.high >> word >> word >>
+        extremes.high_step >> extremes.unit;
+    return extremes;
+}
+
+TEST(Summary, TellsTheExtremesOfDrivingTorqueAndJointForces) {
+    for (const char* example : {"watt", "double-dwell"}) {
+        const std::string text = Batch({"info", "--example", example}).out;
+        const auto tables = Batch({"tables", "--example", example, "--dynamics"}).Json();
+        const bool watt = std::string(example) == "watt";
+        const auto expect = [&](const std::string& label, const char* unit, auto&& value) {
+            const Extremes shown = Extremes_Of(text, label);
+            EXPECT_EQ(shown.unit, unit) << label;
+            const std::size_t count = tables["StepValid"].size();
+            std::size_t low = 0, high = 0;
+            for (std::size_t step = 0; step < count; ++step) {
+                if (value(step) < value(low)) low = step;
+                if (value(step) > value(high)) high = step;
+            }
+            EXPECT_EQ(shown.low_step, static_cast<int>(low)) << label;
+            EXPECT_EQ(shown.high_step, static_cast<int>(high)) << label;
+            EXPECT_NEAR(shown.low, value(low), 1e-3 * std::abs(value(low))) << label;
+            EXPECT_NEAR(shown.high, value(high), 1e-3 * std::abs(value(high))) << label;
+        };
+        expect("Driving torque", "lb-in",
+               [&](std::size_t step) { return tables["TorqueTable"][step][0].get<double>(); });
+        const std::pair<std::string, std::size_t> forces[] = {{"Force at O2", 5},
+                                                              {"Force at A", 0},
+                                                              {"Force at B", 1},
+                                                              {"Force at O4", 6},
+                                                              {"Force at O6", 10},
+                                                              {"Shaking force", 7},
+                                                              {watt ? "Force at D" : "Force at C", 8},
+                                                              {watt ? "Force at E" : "Force at D", 9}};
+        for (const auto& [label, entry] : forces)
+            expect(label, "lb", [&, i = entry](std::size_t step) {
+                const auto& force = tables["ForceTable"][step][i];
+                return std::hypot(force[0].get<double>(), force[1].get<double>());
+            });
+    }
+}
+
+TEST(Summary, LeavesStepsThatDoNotAssembleOutOfTheExtremes) {
+    const TemporaryFolder folder;
+    const CommandRun run = Batch({"info", Long_Crank_File(folder)});
+    EXPECT_EQ(Value_Of(run.out, "Forces not solved"), "from step 10 on");
+    EXPECT_LT(Extremes_Of(run.out, "Driving torque").low_step, kFirstFailed);
+    EXPECT_LT(Extremes_Of(run.out, "Driving torque").high_step, kFirstFailed);
+}
+
+TEST(Summary, SaysWhereNoForceCouldBeSolved) {
+    const TemporaryFolder folder;
+    const std::string path =
+        Model_File(folder, "a.kvl", [](Program& program) { program.model.LinkageType = "X"; });
+    const CommandRun run = Batch({"info", path});
+    EXPECT_EQ(Value_Of(run.out, "Forces"), "none; no step that assembles could be solved");
+}
+
+TEST(Summary, HasNoForcesWhereTheMotionWasRefused) {
+    const TemporaryFolder folder;
+    const std::string path =
+        Model_File(folder, "a.kvl", [](Program& program) { program.model.CalcMode = 0; });
+    EXPECT_THAT(Batch({"info", path}).out, Not(HasSubstr("Force")));
 }
 
 TEST(Summary, ShowsAShortTableOfTheMotion) {

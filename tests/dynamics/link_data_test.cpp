@@ -75,6 +75,42 @@ TEST(DefaultMassProperties, WriteLinkDataAndNothingElse) {
     EXPECT_EQ(Differing_Fields(before, model), written);
 }
 
+TEST(ExternalForces, AreResolvedForLinks3To6Alone) {
+    LinkageModel model = Used();
+    const float magnitudes[] = {0, 0, 7, 10, -10, 2, 0};
+    const float angles[] = {0, 0, 7, 60, 180, -90, 33};
+    for (int link = 2; link <= 6; ++link) {
+        model.ForceMag(link) = magnitudes[link];
+        model.ForceAngle(link) = angles[link];
+    }
+    Resolve_External_Forces(model);
+    const double x[] = {Poison, Poison, Poison, 5, 10, 0, 0};
+    const double y[] = {Poison, Poison, Poison, 8.660254, 0, -2, 0};
+    for (int link = 0; link <= 6; ++link) {
+        EXPECT_NEAR(model.ForceX(link), x[link], 1e-6) << link;
+        EXPECT_NEAR(model.ForceY(link), y[link], 1e-6) << link;
+    }
+}
+
+TEST(ExternalForces, UseTheProgramsOwnPi) {
+    LinkageModel model = Used();
+    model.ForceMag(3) = 1;
+    model.ForceAngle(3) = 180;
+    Resolve_External_Forces(model);
+    // sin(3.141592654) is the error of that pi: -4.1e-10.
+    EXPECT_NEAR(model.ForceY(3), -4.1e-10, 1e-12);
+}
+
+TEST(CGAngle, IsHeldInRadiansAndGivenInDegrees) {
+    LinkageModel model = Used();
+    Set_CG_Angle(model, 4, 30);
+    EXPECT_EQ(model.LinkCG(4, 1), 0.5235988F);
+    EXPECT_NEAR(CG_Angle_Degrees(model, 4), 30, 1e-5);
+    EXPECT_EQ(model.LinkCG(4, 0), Poison);
+    model.LinkCG(4, 1) = 1;
+    EXPECT_DOUBLE_EQ(CG_Angle_Degrees(model, 4), 57.29577950560105);
+}
+
 class FreshProgram : public ProgramTest {};
 
 TEST_F(FreshProgram, HasTheDefaultLinkDataOfItsGeometry) {
