@@ -11,9 +11,12 @@
 
 #include "core/animation_state.h"
 #include "core/catalogue_names.h"
+#include "core/fourier_state.h"
 #include "core/model.h"
 #include "core/port.h"
 #include "core/result_tables.h"
+#include "core/selections.h"
+#include "core/table_output.h"
 
 namespace kervol {
 
@@ -38,6 +41,9 @@ struct Program {
     ResultTables tables;
     AnimationState animation;
     CatalogueNames catalogue;
+    Selections selections;
+    TableOutput output;
+    FourierState fourier;
     FaultLog faults;
     Port& port;
 };

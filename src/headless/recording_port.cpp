@@ -43,6 +43,11 @@ std::optional<std::string> RecordingPort::Ask_File_To_Save(const FileDialog& dia
     return Ask_File_To_Open(dialog);
 }
 
+std::unique_ptr<Printer> RecordingPort::Ask_Printer() {
+    if (!has_printer) return nullptr;
+    return std::make_unique<TextPrinter>(documents.emplace_back());
+}
+
 std::string RecordingPort::Long_Path(const std::string& path) {
     // The name that was given stays, also where it is a link.
     std::error_code error;

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <functional>
+#include <list>
 #include <string>
 #include <vector>
 
 #include "core/port.h"
+#include "headless/text_printer.h"
 
 namespace kervol {
 
@@ -27,6 +29,7 @@ class RecordingPort : public Port {
     std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) override;
     std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;
     void Print_Screen(ScreenId screen) override { printed.push_back(screen); }
+    std::unique_ptr<Printer> Ask_Printer() override;
     std::string User_Name() override { return user_name; }
     std::string Long_Path(const std::string& path) override;
     DateAndTime Short_Date_And_Time() override;
@@ -37,12 +40,14 @@ class RecordingPort : public Port {
     /// Answers a file dialog; without one it is cancelled.
     std::function<std::optional<std::string>(const FileDialog&)> file;
     bool shows_repeated_faults = true;
+    bool has_printer = true;  ///< without one the printer dialog counts as cancelled
     std::string user_name;
 
     std::vector<Shown> messages;
     std::vector<ScreenId> screens;  ///< in the order in which they were shown
     std::vector<ScreenId> hidden;
     std::vector<ScreenId> printed;
+    std::list<PrintedDocument> documents;  ///< a list, since printers keep hold of them
     std::vector<FileDialog> dialogs;
     std::string focus;  ///< control that was given the focus last
     int fills = 0;      ///< how often the screens were filled
