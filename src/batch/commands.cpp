@@ -6,13 +6,17 @@
 #include <cmath>
 #include <exception>
 #include <map>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "batch/batch_run.h"
+#include "batch/output_table.h"
 #include "batch/summary.h"
 #include "batch/tables_json.h"
+#include "catalogue/names.h"
+#include "catalogue/tabulation.h"
 #include "core/number_text.h"
 #include "core/path_text.h"
 #include "core/report.h"
@@ -39,13 +43,29 @@ struct Arguments {
     bool dynamics = false;
     bool flywheel = false;
     float fluctuation = 0;  ///< 0 where none was given
+    std::vector<std::string> functions;
+    std::string preset;
+    std::string frame = "global";
+    std::string format = "text";
+    std::optional<std::int16_t> every;
+    std::optional<std::int16_t> decimals;
 };
+
+std::string Table_Text(Program& program, const SlotLabels& labels, const std::string& format) {
+    if (format == "text") return Table_Pages(program, labels);
+    if (format == "csv") return Table_Csv(program, labels);
+    std::string text;
+    Print_to_File(program, labels, text);
+    return text;
+}
 
 class Commands {
   public:
     Commands(std::ostream& out, std::ostream& err) : out_(out), err_(err) {}
 
     int Tables(const Arguments& arguments);
+    int Table(const Arguments& arguments);
+    int Functions(const Arguments& arguments);
     int Info(const Arguments& arguments);
     int Convert(const Arguments& arguments);
     int Save_Example(const Arguments& arguments);
@@ -59,6 +79,7 @@ class Commands {
     /// The tables that were asked for beside the kinematic ones.
     static FurtherTables Add_Further(BatchRun& run, const Arguments& arguments);
     int Close(const BatchRun& run);
+    int Put_Out(BatchRun& run, const std::string& text, const Arguments& arguments);
     int Save(BatchRun& run, const std::string& path);
 
     std::ostream& out_;
@@ -98,19 +119,58 @@ FurtherTables Commands::Add_Further(BatchRun& run, const Arguments& arguments) {
     return further;
 }
 
+int Commands::Put_Out(BatchRun& run, const std::string& text, const Arguments& arguments) {
+    if (arguments.output.empty()) return Print(text) ? Close(run) : Failed;
+    const bool written = Procedure(run.program(), "Put_Out", [&] {
+        OutputFile file(arguments.output);
+        file.Write(text);
+        file.Close();
+    });
+    return written ? Close(run) : Complain(Failed, run.Write_Complaint(arguments.output));
+}
+
 int Commands::Tables(const Arguments& arguments) {
     BatchRun run(kOnFailure.at(arguments.on_failure));
     if (!Take_Model(run, arguments)) return Close(run);
     run.Calculate();
     const FurtherTables further = Add_Further(run, arguments);
-    const std::string json = Tables_Json(run.program(), run.port(), further);
-    if (arguments.output.empty()) return Print(json) ? Close(run) : Failed;
-    const bool written = Procedure(run.program(), "tables", [&] {
-        OutputFile file(arguments.output);
-        file.Write(json);
-        file.Close();
-    });
-    return written ? Close(run) : Complain(Failed, run.Write_Complaint(arguments.output));
+    return Put_Out(run, Tables_Json(run.program(), run.port(), further), arguments);
+}
+
+int Commands::Table(const Arguments& arguments) {
+    BatchRun run(Answer::Ignore);
+    if (!Take_Model(run, arguments)) return Close(run);
+    run.Calculate();
+    if (run.Outcome() == GivenUp) return Close(run);
+
+    Program& program = run.program();
+    Change_Catalog_Labels(program.catalogue, program.model.LinkageType);
+    SlotLabels labels;
+    const auto choose = [&] {
+        return arguments.preset.empty() ? Choose_Functions(program, arguments.functions, labels)
+                                        : Choose_Preset(program, arguments.preset, labels);
+    };
+    std::string objection = choose();
+    if (!objection.empty()) {
+        // Forces and flywheel are computed for those who ask for them.
+        run.Add_Dynamics();
+        run.Add_Flywheel();
+        objection = choose();
+    }
+    if (!objection.empty()) return Complain(WrongUse, objection);
+    program.selections.LocalCoords = arguments.frame == "local" ? 2 : 0;
+    program.model.PrintStep = arguments.every.value_or(program.model.PrintStep);
+    program.output.DecimalPlaces = arguments.decimals.value_or(program.output.DecimalPlaces);
+    return Put_Out(run, Table_Text(program, labels, arguments.format), arguments);
+}
+
+int Commands::Functions(const Arguments& arguments) {
+    BatchRun run(Answer::Ignore);
+    const bool named = !arguments.model.empty() || !arguments.example.empty();
+    if (named && !Take_Model(run, arguments)) return Close(run);
+    Program& program = run.program();
+    Change_Catalog_Labels(program.catalogue, program.model.LinkageType);
+    return Print(Function_List(program)) ? Close(run) : Failed;
 }
 
 int Commands::Info(const Arguments& arguments) {
@@ -170,15 +230,21 @@ std::vector<std::string> Example_Names() {
     return names;
 }
 
-void Add_Source(CLI::App& command, Arguments& arguments) {
+void Add_Source_Options(CLI::App& command, Arguments& arguments) {
     command.add_option("MODEL", arguments.model, "model file (.kvl or .ikv)")->type_name("");
     command.add_option("--example", arguments.example, "a built-in linkage in place of MODEL")
         ->check(CLI::IsMember(Example_Names()))
         ->type_name("NAME");
-    command.callback([&arguments] {
-        if (arguments.model.empty() == arguments.example.empty())
-            throw CLI::ValidationError("name one MODEL or one --example");
-    });
+}
+
+void Require_One_Source(const Arguments& arguments) {
+    if (arguments.model.empty() == arguments.example.empty())
+        throw CLI::ValidationError("name one MODEL or one --example");
+}
+
+void Add_Source(CLI::App& command, Arguments& arguments) {
+    Add_Source_Options(command, arguments);
+    command.callback([&arguments] { Require_One_Source(arguments); });
 }
 
 CLI::Option* Add_Output(CLI::App& command, Arguments& arguments, const char* help) {
@@ -199,6 +265,45 @@ void Add_Dynamics(CLI::App& command, Arguments& arguments) {
         ->type_name("X");
 }
 
+void Check_Table_Arguments(const Arguments& arguments) {
+    Require_One_Source(arguments);
+    if (arguments.functions.empty() == arguments.preset.empty())
+        throw CLI::ValidationError("name --function or --preset, one of them");
+    if (arguments.format == "csv" && (arguments.every || arguments.decimals))
+        throw CLI::ValidationError("csv has every step in full; leave --every and --decimals out");
+}
+
+void Add_Table(CLI::App& app, Arguments& arguments) {
+    auto* table = app.add_subcommand("table", "Calculate a model and write chosen functions as a table");
+    Add_Source_Options(*table, arguments);
+    table->add_option("--function", arguments.functions, "up to four, each a name and its component")
+        ->type_name("NAME[:X|Y|Mag|Ang]");
+    table->add_option("--preset", arguments.preset, "the functions of a preset")->type_name("TITLE");
+    table
+        ->add_option("--frame", arguments.frame,
+                     "frame of vectors; a local one turns with the crank, in csv with the vector's own link")
+        ->check(CLI::IsMember({"global", "local"}))
+        ->type_name("FRAME")
+        ->capture_default_str();
+    table->add_option("--every", arguments.every, "steps from row to row, else the model's (dat, text)")
+        ->check(CLI::Range(1, MaxSteps))
+        ->type_name("N");
+    table->add_option("--decimals", arguments.decimals, "decimals, else 3 (dat, text)")
+        ->check(CLI::Range(0, 6))
+        ->type_name("N");
+    table
+        ->add_option("--format", arguments.format,
+                     "dat as the program writes it, csv for a spreadsheet, text as it prints it")
+        ->check(CLI::IsMember({"dat", "csv", "text"}))
+        ->type_name("FORMAT")
+        ->capture_default_str();
+    Add_Output(*table, arguments, "write there instead of to standard output");
+    table->callback([&arguments] { Check_Table_Arguments(arguments); });
+
+    auto* functions = app.add_subcommand("functions", "List the functions and presets with their units");
+    Add_Source_Options(*functions, arguments);
+}
+
 void Add_Commands(CLI::App& app, Arguments& arguments) {
     auto* tables = app.add_subcommand("tables", "Calculate a model and write all tables as JSON");
     Add_Source(*tables, arguments);
@@ -209,6 +314,8 @@ void Add_Commands(CLI::App& app, Arguments& arguments) {
     Add_Dynamics(*tables, arguments);
     Add_Output(*tables, arguments, "write there instead of to standard output");
     Add_Later_Options(*tables);
+
+    Add_Table(app, arguments);
 
     auto* info = app.add_subcommand("info", "Calculate a model and tell what it is and how it moves");
     Add_Source(*info, arguments);
@@ -228,6 +335,8 @@ void Add_Commands(CLI::App& app, Arguments& arguments) {
 
 int Run_Command(Commands& commands, const CLI::App& app, const Arguments& arguments) {
     const std::string name = app.get_subcommands().front()->get_name();
+    if (name == "table") return commands.Table(arguments);
+    if (name == "functions") return commands.Functions(arguments);
     if (name == "info") return commands.Info(arguments);
     if (name == "convert") return commands.Convert(arguments);
     if (name == "example") return commands.Save_Example(arguments);

@@ -4,9 +4,12 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "core/printer.h"
 
 namespace kervol {
 
@@ -87,6 +90,9 @@ class Port {
     virtual bool Hold_Picture(double milliseconds) = 0;
     /// Prints an image of the screen.
     virtual void Print_Screen(ScreenId screen) = 0;
+    /// Shows the printer dialog. A printer with an empty document; nothing after Cancel, or where no lines
+    /// can be printed.
+    virtual std::unique_ptr<Printer> Ask_Printer() { return nullptr; }
     /// The account's full name, else its login name.
     virtual std::string User_Name() = 0;
 

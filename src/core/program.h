@@ -11,10 +11,13 @@
 
 #include "core/animation_state.h"
 #include "core/catalogue_names.h"
+#include "core/fourier_state.h"
 #include "core/matrix_display.h"
 #include "core/model.h"
 #include "core/port.h"
 #include "core/result_tables.h"
+#include "core/selections.h"
+#include "core/table_output.h"
 
 namespace kervol {
 
@@ -40,6 +43,9 @@ struct Program {
     AnimationState animation;
     CatalogueNames catalogue;
     MatrixDisplay matrix;  ///< filled by `Matrix_Fill`
+    Selections selections;
+    TableOutput output;
+    FourierState fourier;
     FaultLog faults;
     Port& port;
 };

@@ -49,6 +49,11 @@ bool RecordingPort::Hold_Picture(double milliseconds) {
     return !goes_on || goes_on();
 }
 
+std::unique_ptr<Printer> RecordingPort::Ask_Printer() {
+    if (!has_printer) return nullptr;
+    return std::make_unique<TextPrinter>(documents.emplace_back());
+}
+
 std::string RecordingPort::Long_Path(const std::string& path) {
     return Long_Path_Of(path);
 }

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <functional>
+#include <list>
 #include <string>
 #include <vector>
 
 #include "core/port.h"
+#include "headless/text_printer.h"
 
 namespace kervol {
 
@@ -30,6 +32,7 @@ class RecordingPort : public Port {
     void Set_Running(bool running) override { runs.push_back(running); }
     bool Hold_Picture(double milliseconds) override;
     void Print_Screen(ScreenId screen) override { printed.push_back(screen); }
+    std::unique_ptr<Printer> Ask_Printer() override;
     std::string User_Name() override { return user_name; }
     std::string Long_Path(const std::string& path) override;
     DateAndTime Short_Date_And_Time() override;
@@ -42,14 +45,16 @@ class RecordingPort : public Port {
     /// Whether a run goes on behind the position that was held last; without one it does.
     std::function<bool()> goes_on;
     bool shows_repeated_faults = true;
+    bool has_printer = true;  ///< without one the printer dialog counts as cancelled
     std::string user_name;
 
     std::vector<Shown> messages;
     std::vector<ScreenId> screens;  ///< in the order in which they were shown
     std::vector<ScreenId> hidden;
     std::vector<ScreenId> printed;
-    std::vector<bool> runs;     ///< beginnings and ends of runs
-    std::vector<double> holds;  ///< milliseconds
+    std::vector<bool> runs;                ///< beginnings and ends of runs
+    std::vector<double> holds;             ///< milliseconds
+    std::list<PrintedDocument> documents;  ///< a list, since printers keep hold of them
     std::vector<FileDialog> dialogs;
     std::string focus;  ///< control that was given the focus last
     int fills = 0;      ///< how often the screens were filled
