@@ -3,11 +3,12 @@
 add_library(kervol_options INTERFACE)
 target_include_directories(kervol_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 # -Wrestrict of g++ 12 is wrong about joined strings (its bug 105651).
-# Contracted multiply-adds and relaxed arithmetic would make results differ between builds.
+# Contracted multiply-adds and relaxed arithmetic would make results differ between builds. So does g++ 12 where it
+# puts pairs of values into one register: it loses their rounding to single precision.
 target_compile_options(kervol_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wfloat-equal -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wno-restrict -Werror
-    -ffp-contract=off)
+    -ffp-contract=off -fno-tree-slp-vectorize)
 if(KERVOL_SANITIZE)
     target_compile_options(kervol_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

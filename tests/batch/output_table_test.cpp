@@ -212,10 +212,7 @@ TEST(Choice, ThatIsWrongEndsWithExitCode1AndOneLine) {
         {{"--function", "Theta3:x"}, "a component is X, Y, Mag or Ang"},
         {{"--function", "Veloc CP-1:"}, "a component is X, Y, Mag or Ang"},
         {{"--function", "Theta2", "Theta3", "Theta4", "Theta5", "Theta6"}, "four functions at most"},
-        {{"--function", "Force 12"}, "\"Force 12\" needs results that are not there yet"},
-        {{"--function", "Flywl Torque"}, "needs results"},
-        {{"--function", "Current FFT"}, "needs results"},
-        {{"--preset", "Torques 12 and 16"}, "needs results"},
+        {{"--function", "Current FFT"}, "\"Current FFT\" needs results that are not there yet"},
         {{"--preset", "no title"}, "\"no title\" is no preset"},
         {{"--function", "Theta3", "--frame", "own"}, "--frame"},
         {{"--function", "Theta3", "--format", "xls"}, "--format"},
@@ -362,6 +359,22 @@ TEST(Functions, OfAModelHaveItsNamesAndUnits) {
     EXPECT_EQ(Line_With(run.out, "  Veloc I 3,5"), "  Veloc I 3,5    X Y Mag Ang   m/sec");
     EXPECT_EQ(Line_With(run.out, "  Force 53"), "  Force 53       X Y Mag Ang   N                dynamics");
     EXPECT_THAT(run.out, Not(HasSubstr("Veloc I 4,5")));
+}
+
+TEST(Choice, OfForcesAndFlywheelHasThemComputed) {
+    const auto json =
+        nlohmann::json::parse(Batch({"tables", "--example", "watt", "--dynamics", "--flywheel"}).out);
+    const CommandRun run =
+        Batch({"table", "--example", "watt", "--function", "Torque 12", "Flywl Torque", "--format", "csv"});
+    EXPECT_EQ(run.code, 0);
+    const std::string row = run.out.substr(run.out.find("\r\n") + 2);
+    std::istringstream cells(row.substr(0, row.find("\r\n")));
+    std::string angle, torque, smooth;
+    std::getline(cells, angle, ',');
+    std::getline(cells, torque, ',');
+    std::getline(cells, smooth);
+    EXPECT_EQ(std::stof(torque), json["TorqueTable"][0][0].get<float>());
+    EXPECT_EQ(std::stof(smooth), json["FlywheelTorque"][0].get<float>());
 }
 
 }  // namespace

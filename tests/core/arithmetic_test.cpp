@@ -2,6 +2,7 @@
 // Checked arithmetic: what raises which fault, and the limits of what doesn't.
 #include "core/arithmetic.h"
 
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -45,6 +46,18 @@ TEST(Single, RoundsToTheNearestSingle) {
     EXPECT_EQ(Single(1.0 + std::ldexp(1.0, -25)), 1.0F);
     EXPECT_EQ(Single(-kLargestSingle), std::numeric_limits<float>::lowest());
     EXPECT_EQ(Single(1e-300), 0.0F);
+}
+
+// A compiler that takes both parts through one register has been met that leaves this rounding out.
+TEST(Single, IsRoundedAlsoWhereADoubleTakesIt) {
+    volatile double angle = 1.234, size = 7.3;
+    const double x = static_cast<float>(size * std::cos(angle)),
+                 y = static_cast<float>(size * std::sin(angle));
+    const std::array<double, 2> parts = {3 - x, 3 - y};
+    volatile float rounded_x = static_cast<float>(size * std::cos(angle));
+    volatile float rounded_y = static_cast<float>(size * std::sin(angle));
+    EXPECT_EQ(parts[0], 3 - double(rounded_x));
+    EXPECT_EQ(parts[1], 3 - double(rounded_y));
 }
 
 TEST(Single, EndsWhereRoundingLeavesTheRange) {

@@ -42,7 +42,9 @@ TEST_F(Allocations, AreTheSameForOneStepAsForAllOfThem) {
     Of_A_Run(0);
     EXPECT_EQ(Of_A_Run(MaxSteps), Of_A_Run(0));
     const std::size_t before = allocations;
-    delete new int(1);
+    // Through a function that the compiler may not see through: it drops an allocation that nobody looks at.
+    void* (*volatile allocate)(std::size_t) = &::operator new;
+    ::operator delete(allocate(1));
     EXPECT_GT(allocations, before) << "what counts, counts";
 }
 
