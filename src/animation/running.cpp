@@ -34,12 +34,19 @@ class RunScope {
     Program& program_;
 };
 
+/// A coupler point exactly at the origin means that there is none.
+bool Has_Position(const ResultTables& tables, std::int16_t step) {
+    const auto& point = tables.PointPos(step, 2);
+    return !Is_Zero(point(0)) || !Is_Zero(point(1));
+}
+
 void Draw_Rows(Program& program, Picture& picture) {
     const LinkageModel& model = program.model;
     AnimationState& state = program.animation;
     for (std::int16_t step = 0; step <= model.NumSteps; ++step) {
         if (!program.tables.StepValid(step)) continue;
-        if (state.EndRun) return Drawsub6(program, step, picture, NumLinks);
+        if (state.EndRun && Has_Position(program.tables, step))
+            return Drawsub6(program, step, picture, NumLinks);
         const bool no_position = Drawone(program, step, picture);
         state.LinkColour = state.colours.magenta;
         if (no_position && step > 0)
@@ -70,8 +77,7 @@ bool Drawone(Program& program, std::int16_t step, Picture& picture) {
         const Colour erased = program.model.ShowTrace == "N" ? state.colours.white : links;
         for (const bool erasing : {false, true}) {
             state.LinkColour = erasing ? erased : links;
-            const auto point = program.tables.PointPos(step, 2);
-            no_position = Is_Zero(point(0)) && Is_Zero(point(1));
+            no_position = !Has_Position(program.tables, step);
             if (no_position) return;
             Drawsub6(program, step, picture, NumLinks);
             if (!erasing && !program.port.Hold_Picture(Holding_Time(program.model))) state.EndRun = true;

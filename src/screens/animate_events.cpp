@@ -83,7 +83,7 @@ void cmd_Run_Click(Screens& screens) {
         program.port.Show_Message({kFailedPositions, Icon::Exclamation});
     }
     program.model.StepMode = "N";
-    Animate(program, screen, screen);
+    if (Can_Draw(program.model, 0)) Animate(program, screen, screen);
 }
 
 /// Sweeps anew with the model as it stands. A run that was abandoned leaves the outputs off.

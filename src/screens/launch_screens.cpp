@@ -145,7 +145,9 @@ void Close_Screen(Screens& screens, ScreenId screen) {
         case ScreenId::frm_Quit:
             return press(screens.frm_Quit.cmd_NoQuit);
         case ScreenId::frm_Animate:
-            return press(screens.frm_Animate.cmd_Done);
+            // An edited linkage cannot be taken along, but the screen can be left.
+            return press(screens.frm_Animate.cmd_Done.enabled ? screens.frm_Animate.cmd_Done
+                                                              : screens.frm_Animate.cmd_Back);
         case ScreenId::frm_About:
             return screens.program.port.Hide_Screen(screen);
     }

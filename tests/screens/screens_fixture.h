@@ -70,8 +70,8 @@ class ScreensTest : public ::testing::Test {
 
     /// Opens the Animation screen.
     void Open_Animate() { port.Show_Screen(ScreenId::frm_Animate, Modality::Modal); }
-    /// Opens the Input screen in a mode of the drive, an imported one of three rows, calculates, and goes on to
-    /// the Animation screen.
+    /// Opens the Input screen in a mode of the drive, an imported one of three rows, calculates, and goes on
+    /// to the Animation screen.
     void Animate_In_Mode(std::int16_t mode);
 
     /// Types into a field, one change for the whole text, and stays in it.
