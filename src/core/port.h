@@ -3,6 +3,7 @@
 // Texts are UTF-8. The window program, `kervol-batch` and the tests each bring their own implementation.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -46,6 +47,7 @@ enum class ScreenId {
     frm_About,
     frm_Quit,
 };
+inline constexpr std::size_t NumScreens = static_cast<std::size_t>(ScreenId::frm_Quit) + 1;
 enum class Modality { Modeless, Modal };
 
 /// A file dialog: its title, its filter as pairs of description and pattern parted by "|", and the proposed

@@ -14,11 +14,6 @@
 namespace kervol {
 namespace {
 
-/// In the order of `ScreenId`.
-constexpr std::array<const char*, 8> kNames = {"frm_Title",      "frm_Disclaimer", "frm_User",
-                                               "frm_HomeScreen", "frm_Inputnew",   "frm_Animate",
-                                               "frm_About",      "frm_Quit"};
-
 /// Centred each time it opens, as large as it was left.
 void Place(FormWindow& window) {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -95,7 +90,7 @@ QtPort::OpenForm& QtPort::Made_Form(ScreenId screen) {
     OpenForm& form = forms_.at(static_cast<std::size_t>(screen));
     if (form.binder != nullptr) return form;
     form.window = std::make_unique<FormWindow>();
-    form.window->setObjectName(QString::fromLatin1(kNames.at(static_cast<std::size_t>(screen))));
+    form.window->setObjectName(Qt_Text(std::string(Screen_Name(screen))));
     form.window->close_asked = [this, screen] { Close_By_User(screen); };
     Lay_Out(screen, form);
     return form;

@@ -79,7 +79,7 @@ class QtPort : public Port {
 
     Screens* screens_ = nullptr;
     PictureList input_picture_, animate_picture_;
-    std::array<OpenForm, 8> forms_;
+    std::array<OpenForm, NumScreens> forms_;
     std::vector<StackEntry*> stack_;  ///< the open modal screens, the front one last
     std::unique_ptr<RunGate> run_;    ///< of the animation, while it runs
     std::string last_folder_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/launch_screens.h"
 
+#include <array>
+
 #include "core/arithmetic.h"
 #include "core/number_text.h"
 #include "core/report.h"
@@ -58,6 +60,54 @@ std::string Version_Line(const LinkageModel& model) {
            model.ProgramDate;
 }
 
+/// What tells one screen from another.
+struct ScreenRow {
+    ScreenId screen;
+    const char* name;
+    const char* title;  ///< before the tail of all captions; the program's title alone where there is none
+    void (*activate)(Screens& screens);
+    /// What the close box and Escape press; where there is nothing they only close.
+    const Button& (*closing_button)(const Screens& screens);
+};
+
+/// An edited linkage cannot be taken along, but the screen can be left.
+const Button& Closing_Animate(const Screens& all) {
+    return all.frm_Animate.cmd_Done.enabled ? all.frm_Animate.cmd_Done : all.frm_Animate.cmd_Back;
+}
+
+void Quit_Form_Activate(Screens& screens) {
+    screens.program.port.Set_Focus(ScreenId::frm_Quit, "cmd_NoQuit");
+}
+
+#define CLOSES(button) [](const Screens& all) -> const Button& { return all.button; }
+
+/// In the order of `ScreenId`.
+constexpr auto kScreens = std::to_array<ScreenRow>({
+    {ScreenId::frm_Title, "frm_Title", nullptr, nullptr, CLOSES(frm_Title.cmd_Abort)},
+    {ScreenId::frm_Disclaimer, "frm_Disclaimer", "", nullptr, CLOSES(frm_Disclaimer.cmd_Done)},
+    {ScreenId::frm_User, "frm_User", nullptr, User_Form_Activate, CLOSES(frm_User.cmd_Done)},
+    {ScreenId::frm_HomeScreen, "frm_HomeScreen", "Home Screen", Home_Form_Activate,
+     CLOSES(frm_HomeScreen.cmd_Quit)},
+    {ScreenId::frm_Inputnew, "frm_Inputnew", "Input Screen", Input_Form_Activate,
+     CLOSES(frm_Inputnew.cmd_Cancel)},
+    {ScreenId::frm_Animate, "frm_Animate", "Animation Screen", Animate_Form_Activate, Closing_Animate},
+    {ScreenId::frm_About, "frm_About", nullptr, nullptr, nullptr},
+    {ScreenId::frm_Quit, "frm_Quit", nullptr, Quit_Form_Activate, CLOSES(frm_Quit.cmd_NoQuit)},
+});
+
+#undef CLOSES
+
+constexpr bool Are_In_Order() {
+    for (std::size_t i = 0; i < kScreens.size(); ++i)
+        if (kScreens[i].screen != static_cast<ScreenId>(i)) return false;
+    return kScreens.size() == NumScreens;
+}
+static_assert(Are_In_Order());
+
+const ScreenRow& Row_Of(ScreenId screen) {
+    return kScreens.at(static_cast<std::size_t>(screen));
+}
+
 }  // namespace
 
 void Fill_Screens(Screens& screens) {
@@ -101,76 +151,26 @@ void Wire_Screens(Screens& screens) {
     on(screens.frm_Quit.cmd_NoQuit.click, "frm_Quit.No", hides(ScreenId::frm_Quit));
 }
 
+std::string_view Screen_Name(ScreenId screen) {
+    return Row_Of(screen).name;
+}
+
 void Activate_Screen(Screens& screens, ScreenId screen) {
-    Procedure(screens.program, "Form_Activate", [&] {
-        switch (screen) {
-            case ScreenId::frm_User:
-                User_Form_Activate(screens);
-                break;
-            case ScreenId::frm_HomeScreen:
-                Home_Form_Activate(screens);
-                break;
-            case ScreenId::frm_Inputnew:
-                Input_Form_Activate(screens);
-                break;
-            case ScreenId::frm_Animate:
-                Animate_Form_Activate(screens);
-                break;
-            case ScreenId::frm_Quit:
-                screens.program.port.Set_Focus(ScreenId::frm_Quit, "cmd_NoQuit");
-                break;
-            case ScreenId::frm_Title:
-            case ScreenId::frm_Disclaimer:
-            case ScreenId::frm_About:
-                break;
-        }
-    });
+    const ScreenRow& row = Row_Of(screen);
+    if (row.activate != nullptr) Procedure(screens.program, "Form_Activate", [&] { row.activate(screens); });
 }
 
 void Close_Screen(Screens& screens, ScreenId screen) {
-    const auto press = [](const Button& button) {
-        if (button.enabled && button.click) button.click();
-    };
-    switch (screen) {
-        case ScreenId::frm_Title:
-            return press(screens.frm_Title.cmd_Abort);
-        case ScreenId::frm_Disclaimer:
-            return press(screens.frm_Disclaimer.cmd_Done);
-        case ScreenId::frm_User:
-            return press(screens.frm_User.cmd_Done);
-        case ScreenId::frm_HomeScreen:
-            return press(screens.frm_HomeScreen.cmd_Quit);
-        case ScreenId::frm_Inputnew:
-            return press(screens.frm_Inputnew.cmd_Cancel);
-        case ScreenId::frm_Quit:
-            return press(screens.frm_Quit.cmd_NoQuit);
-        case ScreenId::frm_Animate:
-            // An edited linkage cannot be taken along, but the screen can be left.
-            return press(screens.frm_Animate.cmd_Done.enabled ? screens.frm_Animate.cmd_Done
-                                                              : screens.frm_Animate.cmd_Back);
-        case ScreenId::frm_About:
-            return screens.program.port.Hide_Screen(screen);
-    }
+    const ScreenRow& row = Row_Of(screen);
+    if (row.closing_button == nullptr) return screens.program.port.Hide_Screen(screen);
+    const Button& button = row.closing_button(screens);
+    if (button.enabled && button.click) button.click();
 }
 
 std::string Screen_Caption(const Screens& screens, ScreenId screen) {
-    const std::string& tail = screens.program.model.CaptionTail;
-    switch (screen) {
-        case ScreenId::frm_HomeScreen:
-            return "Home Screen" + tail;
-        case ScreenId::frm_Inputnew:
-            return "Input Screen" + tail;
-        case ScreenId::frm_Animate:
-            return "Animation Screen" + tail;
-        case ScreenId::frm_Disclaimer:
-            return tail;
-        case ScreenId::frm_Title:
-        case ScreenId::frm_User:
-        case ScreenId::frm_About:
-        case ScreenId::frm_Quit:
-            return screens.program.model.ProgramTitle;
-    }
-    return {};
+    const LinkageModel& model = screens.program.model;
+    const char* title = Row_Of(screen).title;
+    return title == nullptr ? model.ProgramTitle : title + model.CaptionTail;
 }
 
 void Launch(Screens& screens, const std::string& command_line) {

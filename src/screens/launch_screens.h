@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "screens/screens.h"
 
@@ -10,6 +11,9 @@ namespace kervol {
 
 /// Captions that never change, and what each control does. Once, before anything is shown.
 void Wire_Screens(Screens& screens);
+
+/// The screen's own name, such as "frm_Title".
+std::string_view Screen_Name(ScreenId screen);
 
 /// What a screen does each time it opens or comes to the front.
 void Activate_Screen(Screens& screens, ScreenId screen);

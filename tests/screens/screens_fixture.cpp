@@ -12,28 +12,6 @@
 
 namespace kervol {
 
-std::string_view Screen_Name(ScreenId screen) {
-    switch (screen) {
-        case ScreenId::frm_Title:
-            return "frm_Title";
-        case ScreenId::frm_Disclaimer:
-            return "frm_Disclaimer";
-        case ScreenId::frm_User:
-            return "frm_User";
-        case ScreenId::frm_HomeScreen:
-            return "frm_HomeScreen";
-        case ScreenId::frm_Inputnew:
-            return "frm_Inputnew";
-        case ScreenId::frm_Animate:
-            return "frm_Animate";
-        case ScreenId::frm_About:
-            return "frm_About";
-        case ScreenId::frm_Quit:
-            return "frm_Quit";
-    }
-    return "?";
-}
-
 Answer ScreenPort::Show_Message(const MessageBox& box) {
     trace.push_back("box");
     if (while_box) while_box();

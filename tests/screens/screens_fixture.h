@@ -24,8 +24,6 @@ namespace kervol {
 /// Modes or counts to try one after another.
 using Int16List = std::initializer_list<std::int16_t>;
 
-std::string_view Screen_Name(ScreenId screen);
-
 /// Keeps the order of what happens, activates a screen that opens and lets a script use it while it is open.
 class ScreenPort : public RecordingPort {
   public:
