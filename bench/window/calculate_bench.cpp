@@ -66,10 +66,3 @@ BENCHMARK(Painted_Frame_Alone)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace kervol::bench
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

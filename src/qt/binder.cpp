@@ -42,6 +42,15 @@ bool Is_Own_Name(const QString& name) {
     return name.isEmpty() || name.startsWith("qt_") || name == "Picture1";
 }
 
+void Put_Items(QComboBox& box, const std::vector<std::string>& items) {
+    QStringList wanted, shown;
+    for (const std::string& item : items) wanted.append(Qt_Text(item));
+    for (int i = 0; i < box.count(); ++i) shown.append(box.itemText(i));
+    if (shown == wanted) return;
+    box.clear();
+    box.addItems(wanted);
+}
+
 }  // namespace
 
 QString Qt_Text(const std::string& text) {
@@ -213,12 +222,12 @@ void Binder::Add(const std::string& name, ComboBox& box) {
     });
     Push_Later([this, widget, &box] {
         const QSignalBlocker quiet(widget);
-        if (widget->count() != static_cast<int>(box.items.size())) {
-            widget->clear();
-            for (const std::string& item : box.items) widget->addItem(Qt_Text(item));
-        }
+        Put_Items(*widget, box.items);
         const QString text = Qt_Text(box.text);
-        if (widget->currentText() != text) widget->setCurrentText(text);
+        if (widget->currentText() != text) {
+            widget->setCurrentIndex(widget->findText(text));
+            if (widget->isEditable()) widget->setEditText(text);
+        }
         Push_Common(*widget, box);
     });
 }

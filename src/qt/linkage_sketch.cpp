@@ -17,7 +17,7 @@
 namespace kervol {
 namespace {
 
-constexpr int kLetterRoom = 24;  ///< logical pixels around the figure
+constexpr int kLetterRoom = 32;  ///< logical pixels around the figure
 constexpr double kPinRadius = 3.5;
 
 QPointF Turned(Vec point, double angle) {

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 #include <algorithm>
 
 namespace kervol {
@@ -27,6 +28,9 @@ bool Is_Input(QEvent::Type type) {
         case QEvent::TouchEnd:
         case QEvent::TabletPress:
         case QEvent::TabletRelease:
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop:
             return true;
         default:
             return false;
@@ -35,6 +39,26 @@ bool Is_Input(QEvent::Type type) {
 
 bool Is_Escape(const QEvent& event) {
     return event.type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+}
+
+bool Is_Key(const QEvent& event) {
+    return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
+}
+
+bool Is_Button_Key(const QEvent& event) {
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// What moves the focus before the widget under the pointer hears of it.
+bool Moves_Focus(QEvent::Type type) {
+    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick || type == QEvent::Wheel ||
+           type == QEvent::TouchBegin || type == QEvent::TabletPress;
+}
+
+bool Is_On(const QWidget& widget, const QEvent& event) {
+    const QPointF at = static_cast<const QSinglePointEvent&>(event).globalPosition();
+    return widget.rect().contains(widget.mapFromGlobal(at).toPoint());
 }
 
 }  // namespace
@@ -49,7 +73,11 @@ RunGate::~RunGate() {
 }
 
 bool RunGate::eventFilter(QObject* watched, QEvent* event) {
-    if (!watched->isWidgetType()) return false;
+    const QWidget* form = picture_.window();
+    if (watched == form->windowHandle())
+        return Moves_Focus(event->type()) && (event->type() == QEvent::TouchBegin || !Is_On(button_, *event));
+    // A box over the run has to be answered.
+    if (!watched->isWidgetType() || static_cast<QWidget*>(watched)->window() != form) return false;
     if (event->type() == QEvent::Close) {
         event->ignore();
         Ask_End();
@@ -59,7 +87,8 @@ bool RunGate::eventFilter(QObject* watched, QEvent* event) {
         Ask_End();
         return true;
     }
-    return watched != &button_ && Is_Input(event->type());
+    if (!Is_Input(event->type())) return false;
+    return watched != &button_ || (Is_Key(*event) && !Is_Button_Key(*event));
 }
 
 void RunGate::Hold(double milliseconds) {

@@ -17,10 +17,9 @@ namespace kervol {
 
 /// What the picture showed when it was painted.
 struct SeenPaint {
-    std::vector<int> positions;  ///< the rows whose crank stood
+    std::size_t cranks;  ///< how many positions stood
+    int row;             ///< of the one drawn last, -1 for none
     QSize size;
-
-    int Front() const { return positions.empty() ? -1 : positions.back(); }
 };
 
 class AnimateTest : public WindowTest {
@@ -50,18 +49,19 @@ class AnimateTest : public WindowTest {
 
     /// Clicks the Run button; returns when the run is over. What was painted since the click is in `seen`.
     void Run(FormWindow& form) {
+        QApplication::processEvents();
         seen.clear();
         Click(form, "cmd_Run");
     }
     /// While row `row` is held for the first time.
     void At_Row(int row, std::function<void()> act) { at_row_[row] = std::move(act); }
 
-    /// The rows in the order in which they were first seen in front.
+    /// The rows in the order in which they were painted. The last row looks like the first: between two
+    /// cycles they count as one.
     std::vector<int> Rows_Seen() const {
         std::vector<int> rows;
         for (const SeenPaint& paint : seen)
-            if (paint.Front() >= 0 && (rows.empty() || rows.back() != paint.Front()))
-                rows.push_back(paint.Front());
+            if (paint.row >= 0 && (rows.empty() || rows.back() != paint.row)) rows.push_back(paint.row);
         return rows;
     }
     static std::vector<int> Rows_To(int last) {
@@ -70,8 +70,7 @@ class AnimateTest : public WindowTest {
         return rows;
     }
 
-    /// The rows whose crank stands now, in the order of drawing. Row 0 and the last are one direction: while
-    /// both fit it is told as the last if anything else was in front before.
+    /// The rows whose crank stands now, in the order of drawing; the last row is told as 0.
     std::vector<int> Standing() {
         std::vector<int> rows;
         const double y0 = program->animation.PlotY0;
@@ -82,9 +81,7 @@ class AnimateTest : public WindowTest {
             const double x = line.x2, y = y0 - line.y2;
             EXPECT_NEAR(std::hypot(x, y), kCrank, 1e-4);
             const double degrees = std::atan2(y, x) * 180 / 3.14159265358979 + 360;
-            const int row = static_cast<int>(std::lround(degrees / kDegreesARow)) % kLast;
-            rows.push_back(row == 0 && passed_ ? kLast : row);
-            passed_ = row != 0 || passed_;
+            rows.push_back(static_cast<int>(std::lround(degrees / kDegreesARow)) % kLast);
         }
         return rows;
     }
@@ -110,16 +107,17 @@ class AnimateTest : public WindowTest {
     };
 
     void Enter(const QWidget& picture) {
-        passed_ = !seen.empty() && seen.back().Front() > 0;
-        seen.push_back({Standing(), picture.size()});
-        const auto due = at_row_.find(seen.back().Front());
+        const std::vector<int> rows = Standing();
+        int row = rows.empty() ? -1 : rows.back();
+        if (row == 0 && !seen.empty() && seen.back().row >= kLast - 1) row = kLast;
+        seen.push_back({rows.size(), row, picture.size()});
+        const auto due = at_row_.find(row);
         if (due == at_row_.end()) return;
         QTimer::singleShot(0, due->second);
         at_row_.erase(due);
     }
 
     std::map<int, std::function<void()>> at_row_;
-    bool passed_ = false;  ///< a row behind the first was in front
 };
 
 }  // namespace kervol

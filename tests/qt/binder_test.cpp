@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/binder.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -44,6 +46,10 @@ class BinderTest : public ::testing::Test {
         bar_widget->setOrientation(Qt::Horizontal);
         bar_widget->setInvertedControls(false);
         options_widgets = {Named<QRadioButton>("opt_a_0", &window), Named<QRadioButton>("opt_a_1", &window)};
+        combo_widget = Named<QComboBox>("cmb_a", &window);
+        combo_widget->setEditable(true);
+        combo_widget->setInsertPolicy(QComboBox::NoInsert);
+        combo_widget->setCompleter(nullptr);
         action = new QAction(&window);
         action->setObjectName("mnu_a");
         Wire();
@@ -73,6 +79,9 @@ class BinderTest : public ::testing::Test {
         options[1].click = enter("option 1");
         bar.change = enter("bar change");
         bar.scroll = enter("bar scroll");
+        combo.change = enter("combo");
+        combo.items = {"10", "20", "40"};
+        combo.text = "1000";
         item.click = enter("menu");
     }
 
@@ -84,6 +93,7 @@ class BinderTest : public ::testing::Test {
         binder->Add("chk_a", check);
         binder->Add("hsc_a", bar);
         binder->Add("opt_a", options);
+        binder->Add("cmb_a", combo);
         binder->Add("mnu_a", item);
     }
 
@@ -94,6 +104,7 @@ class BinderTest : public ::testing::Test {
     QCheckBox* check_widget;
     QScrollBar* bar_widget;
     std::array<QRadioButton*, 2> options_widgets;
+    QComboBox* combo_widget;
     QAction* action;
 
     Label label;
@@ -102,6 +113,7 @@ class BinderTest : public ::testing::Test {
     CheckBox check;
     ScrollBar bar;
     std::array<OptionButton, 2> options;
+    ComboBox combo;
     MenuItem item;
     std::unique_ptr<Binder> binder;
     std::vector<std::string> events;
@@ -236,6 +248,89 @@ TEST_F(BinderTest, ABarChangesByKeysAndScrollsWhileItsThumbIsHeld) {
     EXPECT_EQ(bar.value, 30);
     bar_widget->setSliderDown(false);
     EXPECT_THAT(events, ElementsAre("bar scroll", "bar change"));
+}
+
+TEST_F(BinderTest, AComboBoxShowsItsItemsAndATextThatIsNoneOfThem) {
+    ASSERT_EQ(combo_widget->count(), 3);
+    EXPECT_EQ(combo_widget->itemText(2), "40");
+    EXPECT_EQ(combo_widget->currentText(), "1000");
+    EXPECT_EQ(combo.text, "1000");
+}
+
+TEST_F(BinderTest, TypingIntoAComboBoxIsAChangeWithEachLetter) {
+    combo_widget->setFocus();
+    combo_widget->lineEdit()->selectAll();
+    QTest::keyClicks(combo_widget->lineEdit(), "4x");
+    EXPECT_EQ(combo.text, "4x");
+    EXPECT_THAT(events, ElementsAre("combo", "combo"));
+    EXPECT_EQ(combo_widget->count(), 3) << "what is typed is no new item";
+    QTest::keyClick(combo_widget->lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(combo_widget->currentText(), "4x");
+    EXPECT_EQ(combo_widget->count(), 3);
+    EXPECT_EQ(events.size(), 2U);
+}
+
+TEST_F(BinderTest, AnItemPickedFromTheListOfAComboBoxIsOneChange) {
+    for (const int row : {2, 0, 1}) {
+        events.clear();
+        combo_widget->showPopup();
+        QAbstractItemView* list = combo_widget->view();
+        list->setCurrentIndex(list->model()->index(row, 0));
+        QTest::keyClick(list, Qt::Key_Return);
+        EXPECT_EQ(combo.text, combo.items[static_cast<std::size_t>(row)]);
+        EXPECT_EQ(combo_widget->currentText().toStdString(), combo.text);
+        EXPECT_THAT(events, ElementsAre("combo")) << row;
+    }
+}
+
+TEST_F(BinderTest, TheFirstItemOfAComboBoxCanBePickedOverATextThatIsNone) {
+    combo_widget->showPopup();
+    QAbstractItemView* list = combo_widget->view();
+    list->setCurrentIndex(list->model()->index(0, 0));
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(combo.text, "10");
+    EXPECT_THAT(events, ElementsAre("combo"));
+}
+
+TEST_F(BinderTest, AnArrowKeyInAComboBoxPicksAnItem) {
+    combo_widget->setFocus();
+    QTest::keyClick(combo_widget, Qt::Key_Down);
+    EXPECT_THAT(combo.items, ::testing::Contains(combo.text));
+    EXPECT_EQ(combo_widget->currentText().toStdString(), combo.text);
+    EXPECT_THAT(events, ElementsAre("combo"));
+}
+
+TEST_F(BinderTest, ATextOrItemsThatTheProgramWritesIntoAComboBoxRaiseNothing) {
+    for (const char* text : {"40", "7", "10", ""}) {
+        combo.text = text;
+        binder->Push();
+        EXPECT_EQ(combo_widget->currentText(), text);
+        EXPECT_EQ(combo.text, text);
+    }
+    combo.items = {"1", "2", "3", "4"};
+    combo.text = "3";
+    binder->Push();
+    EXPECT_EQ(combo_widget->count(), 4);
+    EXPECT_EQ(combo_widget->itemText(3), "4");
+    EXPECT_EQ(combo_widget->currentText(), "3");
+    EXPECT_EQ(combo.text, "3");
+    EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(BinderTest, AComboBoxFindsTheEditedFieldLeft) {
+    field_widget->setFocus();
+    QTest::keyClicks(field_widget, "3");
+    combo_widget->setCurrentIndex(1);
+    EXPECT_THAT(events, ElementsAre("change", "lost focus", "combo"));
+}
+
+TEST_F(BinderTest, AComboBoxCanBeDisabledAndHidden) {
+    combo.enabled = false;
+    binder->Push();
+    EXPECT_FALSE(combo_widget->isEnabled());
+    combo.visible = false;
+    binder->Push();
+    EXPECT_FALSE(combo_widget->isVisible());
 }
 
 TEST_F(BinderTest, WhatIsNotThereYetIsDisabledAndSaysWhy) {

@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QWheelEvent>
 #include <cstdio>
 #include <cstdlib>
 
@@ -90,6 +91,12 @@ void WindowTest::Type(QWidget& form, const char* name, const QString& text) {
     field.setFocus();
     field.selectAll();
     QTest::keyClicks(&field, text);
+}
+
+void Turn_Wheel(QWidget& widget) {
+    const QPointF at = widget.rect().center();
+    QWheelEvent turn(at, widget.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &turn);
 }
 
 }  // namespace kervol

@@ -64,6 +64,9 @@ class WindowTest : public ::testing::Test {
     QTimer watchdog_;
 };
 
+/// One notch towards the person, over the middle of the widget.
+void Turn_Wheel(QWidget& widget);
+
 inline constexpr ScreenId kScreensWithWindow[] = {
     ScreenId::frm_Title,    ScreenId::frm_Disclaimer, ScreenId::frm_User,  ScreenId::frm_HomeScreen,
     ScreenId::frm_Inputnew, ScreenId::frm_Animate,    ScreenId::frm_About, ScreenId::frm_Quit,
