@@ -42,7 +42,7 @@ struct InputWindow {
 void Calculate_Until_Painted(benchmark::State& state) {
     const auto window = std::make_unique<InputWindow>();
     for (auto _ : state) {
-        window->screens.frm_Inputnew.cmd_Calc.click();
+        window->port.Run(window->screens.frm_Inputnew.cmd_Calc.click);
         window->Paint();
     }
     state.counters["rows"] = window->program.model.NumSteps + 1;

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <utility>
 
+#include "qt/wide_registers.h"
 #include "screens/control_lists.h"
 #include "screens/input_events.h"
 #include "screens/launch_screens.h"
@@ -38,6 +39,7 @@ void QtPort::Attach(Screens& screens) {
 void QtPort::Run(const Event& event) {
     // All that the gate lets through is the button that started the run.
     if (run_) return run_->Ask_End();
+    Clear_Wide_Registers();
     if (event && !ended_) event();
     Push_All();
 }

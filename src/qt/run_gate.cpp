@@ -9,6 +9,8 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "qt/wide_registers.h"
+
 namespace kervol {
 namespace {
 
@@ -92,6 +94,11 @@ bool RunGate::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void RunGate::Hold(double milliseconds) {
+    Let_Pass(milliseconds);
+    Clear_Wide_Registers();
+}
+
+void RunGate::Let_Pass(double milliseconds) {
     picture_.repaint();
     // A run that fell behind does not hurry to make up for it.
     due_ = std::max(due_ + milliseconds, static_cast<double>(clock_.elapsed()));

@@ -27,6 +27,8 @@ class RunGate : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void Let_Pass(double milliseconds);
+
     QWidget& picture_;
     const QWidget& button_;
     QElapsedTimer clock_;
