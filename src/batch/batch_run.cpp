@@ -82,6 +82,10 @@ void BatchRun::Add_Dynamics() {
     if (end_ == CalculationEnd::Done) solved_steps_ = Run_Dynamics(*program_);
 }
 
+void BatchRun::Take_Fluctuation(float coefficient) {
+    if (!Take_Coef_Fluct(program_->model, coefficient)) port_.Show_Message({FluctuationRefused});
+}
+
 void BatchRun::Add_Flywheel() {
     if (solved_steps_) Size_Flywheel(*program_, flywheel_);
 }

@@ -34,6 +34,8 @@ class BatchRun {
     void Calculate();
     /// The forces of every step with the model's own link data; nothing where its motion was not calculated.
     void Add_Dynamics();
+    /// As the field of the flywheel screen takes it: a refused one is told in a box and becomes 0.05.
+    void Take_Fluctuation(float coefficient);
     /// The flywheel for the crank torque of `Add_Dynamics`.
     void Add_Flywheel();
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <exception>
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <sstream>
@@ -42,7 +43,7 @@ struct Arguments {
     std::string on_failure = "ignore";
     bool dynamics = false;
     bool flywheel = false;
-    float fluctuation = 0;  ///< 0 where none was given
+    std::optional<float> fluctuation;
     std::vector<std::string> functions;
     std::string preset;
     std::string frame = "global";
@@ -112,7 +113,7 @@ FurtherTables Commands::Add_Further(BatchRun& run, const Arguments& arguments) {
     further.dynamics = arguments.dynamics;
     if (arguments.dynamics || arguments.flywheel) run.Add_Dynamics();
     if (arguments.flywheel) {
-        if (arguments.fluctuation > 0) Take_Coef_Fluct(run.program().model, arguments.fluctuation);
+        if (arguments.fluctuation) run.Take_Fluctuation(*arguments.fluctuation);
         run.Add_Flywheel();
         further.flywheel = &run.crank_torque_areas();
     }
@@ -150,10 +151,13 @@ int Commands::Table(const Arguments& arguments) {
         return arguments.preset.empty() ? Choose_Functions(program, arguments.functions, labels)
                                         : Choose_Preset(program, arguments.preset, labels);
     };
+    // Forces and flywheel are computed for those who ask for them.
     std::string objection = choose();
     if (!objection.empty()) {
-        // Forces and flywheel are computed for those who ask for them.
         run.Add_Dynamics();
+        objection = choose();
+    }
+    if (!objection.empty()) {
         run.Add_Flywheel();
         objection = choose();
     }
@@ -214,13 +218,12 @@ void Add_Later_Options(CLI::App& command) {
         command.add_option(later.name, "not available yet")->type_name(later.value)->expected(1);
 }
 
-/// The number that the text is as a whole; refused unless it is a positive single.
+/// The number that the text is as a whole; refused unless it is a single.
 float Fluctuation(const std::string& text) {
     const bool is_number = !text.empty() && Number_Length(text) == text.size();
-    const double value = is_number ? To_Double(text) : 0.0;
-    const auto single = static_cast<float>(value);
-    if (!(single > 0) || !std::isfinite(single))
-        throw CLI::ValidationError("--fluct", "\"" + text + "\" is no number above 0; try 0.05");
+    const auto single = static_cast<float>(is_number ? To_Double(text) : HUGE_VAL);
+    if (!std::isfinite(single))
+        throw CLI::ValidationError("--fluct", "\"" + text + "\" is no number; try 0.05");
     return single;
 }
 
@@ -255,17 +258,27 @@ CLI::Option* Add_Output(CLI::App& command, Arguments& arguments, const char* hel
 
 void Add_Dynamics(CLI::App& command, Arguments& arguments) {
     command.add_flag("--dynamics", arguments.dynamics, "forces and torques too, with the model's link data");
-    auto* flywheel = command.add_flag("--flywheel", arguments.flywheel,
-                                      "pulses of the crank torque and the torque with a flywheel too");
+    command.add_flag("--flywheel", arguments.flywheel,
+                     "pulses of the crank torque and the torque with a flywheel too");
     command
         .add_option_function<std::string>(
             "--fluct", [&](const std::string& text) { arguments.fluctuation = Fluctuation(text); },
             "coefficient of fluctuation of the flywheel, above 0 [0.05]")
-        ->needs(flywheel)
         ->type_name("X");
 }
 
-void Check_Table_Arguments(const Arguments& arguments) {
+/// "--function NAME MODEL": what stands behind the names may be the model.
+void Part_Model_From_Functions(Arguments& arguments) {
+    auto& functions = arguments.functions;
+    if (!arguments.model.empty() || !arguments.example.empty() || functions.size() < 2) return;
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(functions.back(), error)) return;
+    arguments.model = functions.back();
+    functions.pop_back();
+}
+
+void Check_Table_Arguments(Arguments& arguments) {
+    Part_Model_From_Functions(arguments);
     Require_One_Source(arguments);
     if (arguments.functions.empty() == arguments.preset.empty())
         throw CLI::ValidationError("name --function or --preset, one of them");
@@ -280,8 +293,9 @@ void Add_Table(CLI::App& app, Arguments& arguments) {
         ->type_name("NAME[:X|Y|Mag|Ang]");
     table->add_option("--preset", arguments.preset, "the functions of a preset")->type_name("TITLE");
     table
-        ->add_option("--frame", arguments.frame,
-                     "frame of vectors; a local one turns with the crank, in csv with the vector's own link")
+        ->add_option(
+            "--frame", arguments.frame,
+            "frame of vectors; a local one turns with the crank, in csv points turn with their own link")
         ->check(CLI::IsMember({"global", "local"}))
         ->type_name("FRAME")
         ->capture_default_str();

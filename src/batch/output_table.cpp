@@ -38,12 +38,28 @@ std::string Not_Available(const std::string& text) {
     return "\"" + text + "\" needs results that are not there yet" + std::string(kSeeFunctions);
 }
 
-/// Name and component of "NAME:COMPONENT", where no name of a function holds a colon.
+/// A function without components: a scalar, and the crank torque with a flywheel.
+bool Is_One_Number(const CatalogueRow& row) {
+    return row.kind == FunctionClass::Scalar || row.code == table_code::FlywheelTorque;
+}
+
+bool Is_One_Number(const CatalogueNames& names, std::string_view name) {
+    for (int number = 1; number <= CatalogueRows; ++number)
+        if (names.CatalogName(number) == name) return Is_One_Number(Catalogue_Row(number));
+    return false;
+}
+
+/// Name and component of "NAME:COMPONENT", where no name of a function holds a colon. What is one number has
+/// its magnitude, whatever was asked for.
 SlotBoxes Boxes_Of(const CatalogueNames& names, const std::string& choice) {
     const std::size_t colon = std::min(choice.rfind(':'), choice.size());
     const bool has_component = colon < choice.size();
-    return {choice.substr(0, colon),
-            has_component ? choice.substr(colon + 1) : names.ComponentName(component::X)};
+    SlotBoxes boxes = {choice.substr(0, colon),
+                       has_component ? choice.substr(colon + 1) : names.ComponentName(component::X)};
+    const bool is_component = Holds(names.ComponentName, boxes.component) && !boxes.component.empty();
+    if (is_component && Is_One_Number(names, boxes.variable))
+        boxes.component = names.ComponentName(component::Mag);
+    return boxes;
 }
 
 /// What is wrong with one choice, empty if nothing is. A scalar may be asked for without a component or for
@@ -85,7 +101,8 @@ std::string Csv_Heads(Program& program, const SlotLabels& labels) {
     if (program.selections.SelFFT) line = "Harmonic Number";
     for (std::int16_t k = 1; k <= program.selections.NumSelected; ++k) {
         const ColumnHead head = Head_Of_Column(program, labels, k);
-        line += "," + Csv_Field(head.function + " " + head.component + " (" + head.unit + ")");
+        const std::string unit = head.unit.empty() ? "" : " (" + head.unit + ")";
+        line += "," + Csv_Field(head.function + " " + head.component + unit);
     }
     return line + "\r\n";
 }
@@ -100,7 +117,7 @@ std::string_view Needed_By(const CatalogueRow& row, int number) {
 void Put_Function(std::ostream& out, const Program& program, int number) {
     const CatalogueRow& row = Catalogue_Row(number);
     const bool spectrum = row.code == table_code::FFTTable;
-    const bool single = row.kind == FunctionClass::Scalar || row.code == table_code::FlywheelTorque;
+    const bool single = Is_One_Number(row);
     const std::string_view needed = Needed_By(row, number);
     out << "  " << std::left << std::setw(kNameWidth - 2) << program.catalogue.CatalogName(number)
         << std::setw(kComponentsWidth) << (single ? "Mag" : "X Y Mag Ang")

@@ -19,7 +19,8 @@ std::string Choose_Functions(Program& program, const std::vector<std::string>& f
 std::string Choose_Preset(Program& program, const std::string& title, SlotLabels& labels);
 
 /// The table as comma-separated values with one header line: every step, full single precision, lines ended
-/// with CR LF. In a local frame each vector turns with its own link. After a fault, which is
+/// with CR LF. In a local frame a point's vector turns with the point's own link, that of a centre of
+/// gravity with the crank, a force as its column does in the charts. After a fault, which is
 /// reported, the text ends where it was met.
 std::string Table_Csv(Program& program, const SlotLabels& labels);
 

@@ -145,10 +145,10 @@ void Select_Variable(const Program& program, std::int16_t step, std::int16_t k, 
 void Select_PolarVariable(Program& program, std::int16_t step, std::int16_t k, float& magnitude,
                           float& angle) {
     Procedure(program, "Select_PolarVariable", [&] {
-        std::int16_t column = 0;
-        Rotating_Column(program.model, program.selections, column);
         const Pair* pair = Stored_Vector(program.tables, program.selections, step, k);
         if (pair == nullptr) return;
+        std::int16_t column = 0;
+        Rotating_Column(program.model, program.selections, column);
         const Table<float, 4> parts = Components(program, step, column, *pair);
         magnitude = parts(2);
         angle = parts(3);

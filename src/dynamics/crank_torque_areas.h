@@ -24,7 +24,7 @@ struct CrankTorqueAreas {
 /// from the mean scaled by `CoefFluct`.
 ///
 /// More than ten pulses of one sign are fault 9 of `Flywheel`; the rest is done all the same. Twenty-one in
-/// all are too many for the table: it ends with the row that has no entry, and `FlywheelTorque` is left
+/// all are too many for the table: it ends before the row that has no entry, and `FlywheelTorque` is left
 /// alone.
 void Crank_Torque_Areas(Program& program, CrankTorqueAreas& areas);
 
@@ -40,6 +40,9 @@ struct FlywheelSizing {
 
 /// The whole of what the Calculate button of the flywheel does; sets `FlywheelCalculated`.
 void Size_Flywheel(Program& program, FlywheelSizing& sizing);
+
+inline constexpr const char* FluctuationRefused =
+    " Coefficient of fluctuation must be between zero and one - Try .05 ";
 
 /// Takes a new coefficient of fluctuation; one of 0 or below restores 0.05 and is refused. Deliberate: the
 /// upper limit of 1 is tested on the coefficient before, so that a greater one is taken once and the next is

@@ -59,6 +59,7 @@ std::string RecordingPort::Long_Path(const std::string& path) {
 }
 
 DateAndTime RecordingPort::Short_Date_And_Time() {
+    if (clock) return *clock;
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);

@@ -45,7 +45,8 @@ class RecordingPort : public Port {
     /// Whether a run goes on behind the position that was held last; without one it does.
     std::function<bool()> goes_on;
     bool shows_repeated_faults = true;
-    bool has_printer = true;  ///< without one the printer dialog counts as cancelled
+    std::optional<DateAndTime> clock;  ///< stands still; without one it is the machine's
+    bool has_printer = true;           ///< without one the printer dialog counts as cancelled
     std::string user_name;
 
     std::vector<Shown> messages;

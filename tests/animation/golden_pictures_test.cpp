@@ -1,54 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whole pictures compared byte by byte with those of tests/golden, at each of which a person has looked. With
-// KERVOL_REGENERATE=1 in the environment they are written anew: look at what changed before you keep it.
+// Whole pictures of the linkage.
 #include <cmath>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "animation/stepping.h"
 #include "headless/svg_picture.h"
 #include "kinematics/examples.h"
 #include "kinematics/kinematics_fixture.h"
-#include "support/temporary_folder.h"
+#include "support/golden.h"
 
 namespace kervol {
 namespace {
-
-std::filesystem::path Golden_Folder() {
-    return std::filesystem::path(__FILE__).parent_path().parent_path() / "golden";
-}
-
-/// Beside the test program, so in the build.
-std::filesystem::path Output_Folder() {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    const auto folder = (error ? std::filesystem::current_path() : program.parent_path()) / "actual_pictures";
-    std::filesystem::create_directories(folder);
-    return folder;
-}
-
-void Write(const std::filesystem::path& path, const std::string& content) {
-    std::ofstream file(path, std::ios::binary);
-    file << content;
-    EXPECT_TRUE(file.flush().good()) << path << " could not be written";
-}
-
-bool Is_To_Regenerate() {
-    const char* value = std::getenv("KERVOL_REGENERATE");
-    return value != nullptr && std::string_view(value) == "1";
-}
-
-void Expect_Golden(const std::string& name, const std::string& svg) {
-    const auto golden = Golden_Folder() / (name + ".svg");
-    if (Is_To_Regenerate()) Write(golden, svg);
-    if (Content_Of(golden.string()) == svg) return;
-    const auto output = Output_Folder() / (name + ".svg");
-    Write(output, svg);
-    ADD_FAILURE() << "The picture differs.\nGOLDEN: " << golden.string() << "\nOUTPUT: " << output.string()
-                  << "\nIf the new one is right, run with KERVOL_REGENERATE=1.";
-}
 
 class GoldenPicture : public KinematicsTest {
   protected:
@@ -88,14 +50,14 @@ TEST_F(GoldenPicture, OfAWattChain) {
     Load("watt");
     Sweep_All();
     Show(9);
-    Expect_Golden("watt_step_9", picture.Text());
+    Expect_Golden("watt_step_9.svg", picture.Text());
 }
 
 TEST_F(GoldenPicture, OfAStephensonChain) {
     Load("double-dwell");
     Sweep_All();
     Show(30);
-    Expect_Golden("double_dwell_step_30", picture.Text());
+    Expect_Golden("double_dwell_step_30.svg", picture.Text());
 }
 
 TEST_F(GoldenPicture, OfAWattChainTurnedByItsGround) {
@@ -107,7 +69,7 @@ TEST_F(GoldenPicture, OfAWattChainTurnedByItsGround) {
     // The same positions as without the turn.
     Sweep_Range(35, 395, 10);
     Show(9);
-    Expect_Golden("watt_turned_by_35", picture.Text());
+    Expect_Golden("watt_turned_by_35.svg", picture.Text());
 }
 
 TEST_F(GoldenPicture, OfATraceOverTwelveSteps) {
@@ -116,7 +78,7 @@ TEST_F(GoldenPicture, OfATraceOverTwelveSteps) {
     settings.chk_Trace.on = true;
     bool busy = false;
     for (int i = 0; i < 12; ++i) Step_Setup(*program, view, settings, busy);
-    Expect_Golden("trace_of_12_steps", picture.Text());
+    Expect_Golden("trace_of_12_steps.svg", picture.Text());
 }
 
 TEST_F(GoldenPicture, OfCouplerPointsWithHiddenLinks) {
@@ -125,7 +87,7 @@ TEST_F(GoldenPicture, OfCouplerPointsWithHiddenLinks) {
     settings.chk_Showlinks.on = false;
     model.ShowPoints = "Y";
     Show(20);
-    Expect_Golden("hidden_links_with_points", picture.Text());
+    Expect_Golden("hidden_links_with_points.svg", picture.Text());
 }
 
 TEST_F(GoldenPicture, OfALinkageThatFailsAtSomePositions) {
@@ -138,7 +100,7 @@ TEST_F(GoldenPicture, OfALinkageThatFailsAtSomePositions) {
     Expect_Cannot_Assemble(" 1", "85");
     ASSERT_TRUE(model.SomeStepFailed);
     Show(8);
-    Expect_Golden("failed_rows", picture.Text());
+    Expect_Golden("failed_rows.svg", picture.Text());
 }
 
 }  // namespace

@@ -115,17 +115,25 @@ TEST(WrongUse, OptionsOfLaterReleasesSayThatTheyAreNotThereYet) {
     }
 }
 
-TEST(WrongUse, ACoefficientOfFluctuationMustBeANumberAboveZeroForAFlywheel) {
-    for (const char* text : {"0", "-0.5", "", "x", "0.05x", "nan", "inf", "0x1", "1e99", "1e-99"}) {
+TEST(WrongUse, ACoefficientOfFluctuationMustBeANumber) {
+    for (const char* text : {"", "x", "0.05x", "nan", "inf", "0x1", "1e99"}) {
         const CommandRun run = Batch({"tables", "--example", "watt", "--flywheel", "--fluct", text});
         EXPECT_EQ(run.code, 1) << text;
         EXPECT_EQ(run.out, "") << text;
         Expect_One_Line(run.err);
-        EXPECT_THAT(run.err, HasSubstr("is no number above 0")) << text;
+        EXPECT_THAT(run.err, HasSubstr("is no number")) << text;
     }
-    const CommandRun alone = Batch({"tables", "--example", "watt", "--fluct", "0.1"});
-    EXPECT_EQ(alone.code, 1);
-    EXPECT_THAT(alone.err, HasSubstr("requires --flywheel"));
+    EXPECT_EQ(Batch({"tables", "--example", "watt", "--fluct", "0.1"}).code, 0);
+}
+
+TEST(Fluctuation, ThatIsNotAboveZeroIsRefusedInABoxAndBecomesTheCustomaryOne) {
+    for (const char* text : {"0", "-0.5"}) {
+        const CommandRun run = Batch({"tables", "--example", "watt", "--flywheel", "--fluct", text});
+        EXPECT_EQ(run.code, 0) << text;
+        EXPECT_EQ(run.Json()["model"]["CoefFluct"].get<float>(), 0.05F);
+        EXPECT_EQ(run.Json()["messages"][0]["text"],
+                  " Coefficient of fluctuation must be between zero and one - Try .05 ");
+    }
 }
 
 TEST(ExitCode, IsZeroWithoutAComplaintWhereAllIsWell) {
