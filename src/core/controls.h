@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "core/picture.h"
+
 namespace kervol {
 
 /// What happens when a person uses a control; empty where nothing does.
@@ -22,6 +24,7 @@ struct Control {
 
 struct Label : Control {
     std::string caption;
+    std::optional<Colour> colour;  ///< of the text; without one that of all texts
 };
 
 struct Button : Control {
@@ -52,6 +55,13 @@ struct CheckBox : Control {
     bool on = false;
     Event click;
 };
+
+/// A write by the program raises the click as a person's would.
+inline void Put_Check(CheckBox& box, bool on) {
+    if (box.on == on) return;
+    box.on = on;
+    if (box.click) box.click();
+}
 
 struct ScrollBar : Control {
     int minimum = 0;

@@ -15,11 +15,10 @@ struct MatrixCell {
     Colour colour{};
 };
 
-/// Index 0 stays unused in all of them.
+/// Index 0 stays unused in both.
 struct MatrixDisplay {
     Table<MatrixCell, 16, 16> lbl_A;  ///< coefficients, row first
     Table<MatrixCell, 16> lbl_B;      ///< right-hand side by row
-    Table<std::string, 16> lbl_Var;   ///< names of the unknowns, which head rows and columns
 };
 
 }  // namespace kervol

@@ -44,6 +44,8 @@ enum class ScreenId {
     frm_HomeScreen,
     frm_Inputnew,
     frm_Animate,
+    frm_MassProp,
+    frm_Matrix,
     frm_About,
     frm_Quit,
 };
@@ -92,6 +94,8 @@ class Port {
     virtual bool Hold_Picture(double milliseconds) = 0;
     /// Prints an image of the screen.
     virtual void Print_Screen(ScreenId screen) = 0;
+    /// Puts an image of the screen on the clipboard.
+    virtual void Copy_Screen(ScreenId screen) = 0;
     /// Shows the printer dialog. A printer with an empty document; nothing after Cancel, or where no lines
     /// can be printed.
     virtual std::unique_ptr<Printer> Ask_Printer() { return nullptr; }

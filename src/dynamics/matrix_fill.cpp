@@ -27,7 +27,6 @@ void Matrix_Fill(Program& program, const ForceSystem& system) {
             for (int row = 1; row <= NumEquations; ++row)
                 Show_Number(display.lbl_A(row, i), system.MatrixA(row, i));
             Show_Number(display.lbl_B(i), system.VectorB(i));
-            display.lbl_Var(i) = UnknownNames.at(static_cast<std::size_t>(i));
         }
     });
 }

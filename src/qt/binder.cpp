@@ -37,6 +37,14 @@ bool Works(const Control& control) {
     return control.enabled && control.unavailable.empty();
 }
 
+void Colour_Text(QWidget& widget, Colour colour) {
+    const QColor shown(colour.red, colour.green, colour.blue);
+    QPalette palette = widget.palette();
+    if (palette.color(QPalette::WindowText) == shown) return;
+    palette.setColor(QPalette::WindowText, shown);
+    widget.setPalette(palette);
+}
+
 /// Names that the toolkit itself or a part of a form without a record may carry.
 bool Is_Own_Name(const QString& name) {
     return name.isEmpty() || name.startsWith("qt_") || name == "Picture1";
@@ -92,6 +100,7 @@ void Binder::Add(const std::string& name, Label& label) {
     Push_Later([this, widget, &label] {
         const QString text = Shown_Caption(label.caption);
         if (widget->text() != text) widget->setText(text);
+        if (label.colour) Colour_Text(*widget, *label.colour);
         Push_Common(*widget, label);
     });
 }
@@ -271,6 +280,8 @@ void Binder::Leave_Field() {
 void Binder::Set_Focus(std::string_view name) {
     auto* widget = form_.findChild<QWidget*>(Qt_Text(std::string(name)));
     if (widget == nullptr) return;
+    // What has just been enabled takes the focus only once it shows that.
+    Push();
     placing_ = true;
     widget->setFocus(Qt::OtherFocusReason);
     placing_ = false;

@@ -89,6 +89,12 @@ QGridLayout* New_Group_Grid(QGroupBox* group) {
     return grid;
 }
 
+void Hold_Row(QGridLayout* grid, int row, int height) {
+    auto* strut = new QWidget;
+    strut->setMinimumHeight(height);
+    grid->addWidget(strut, row, 0);
+}
+
 void Keep_Room(QWidget* widget) {
     QSizePolicy policy = widget->sizePolicy();
     policy.setRetainSizeWhenHidden(true);

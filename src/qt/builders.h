@@ -39,6 +39,9 @@ QGroupBox* New_Group(const QString& title);
 /// Grid with the margins and gaps of a group.
 QGridLayout* New_Group_Grid(QGroupBox* group);
 
+/// Makes the row at least as high, whatever it holds. An empty row of a grid would lose its gap too.
+void Hold_Row(QGridLayout* grid, int row, int height);
+
 /// Keeps its place in the layout while it is hidden.
 void Keep_Room(QWidget* widget);
 /// Back at the left, next at the right, what else there is between them.

@@ -34,6 +34,8 @@ void Lay_Out_User(FormWindow& form);
 void Lay_Out_Home(FormWindow& form);
 void Lay_Out_Input(FormWindow& form, PictureList& picture);
 void Lay_Out_Animate(FormWindow& form, PictureList& picture);
+void Lay_Out_Mass_Prop(FormWindow& form);
+void Lay_Out_Matrix(FormWindow& form);
 void Lay_Out_About(FormWindow& form);
 void Lay_Out_Quit(FormWindow& form);
 

@@ -112,6 +112,15 @@ void Paint_Letter(QPainter& painter, const QPalette& palette, QPointF centre, co
     painter.fillPath(path, palette.color(QPalette::WindowText));
 }
 
+void Paint_Link_Numbers(QPainter& painter, const QPalette& palette, const std::vector<QPolygonF>& links) {
+    int number = 2;
+    for (const QPolygonF& link : links) {
+        QPointF sum;
+        for (const QPointF& point : link) sum += point;
+        Paint_Letter(painter, palette, sum / static_cast<double>(link.size()), QString::number(number++));
+    }
+}
+
 }  // namespace
 
 std::optional<SketchPosition> Solve_Position(LinkageModel model, double degrees) {
@@ -192,15 +201,18 @@ void LinkageSketch::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(body, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     body.setAlpha(48);
     painter.setBrush(body);
-    for (const QPolygonF& link : Links(*position_)) {
+    std::vector<QPolygonF> links = Links(*position_);
+    for (QPolygonF& link : links) {
+        link = to_widget.map(link);
         if (link.size() == 2)
-            painter.drawPolyline(to_widget.map(link));
+            painter.drawPolyline(link);
         else
-            painter.drawPolygon(to_widget.map(link));
+            painter.drawPolygon(link);
     }
     painter.setPen(QPen(ink, 1.2));
     painter.setBrush(palette().color(QPalette::Window));
     for (const Letter& letter : letters) painter.drawEllipse(letter.at, kPinRadius, kPinRadius);
+    if (numbers_links_) Paint_Link_Numbers(painter, palette(), links);
     letters = Merged(letters);
     for (std::size_t i = 0; i < letters.size(); ++i)
         Paint_Letter(painter, palette(), Centre_Of_Letter(letters, i), letters[i].text);

@@ -32,6 +32,8 @@ class LinkageSketch : public QWidget {
     LinkageSketch(QSize size, QWidget* parent = nullptr);
 
     void Show_Position(const std::optional<SketchPosition>& position);
+    /// Writes the number of each moving link, 2 to 6, in its middle.
+    void Number_Links() { numbers_links_ = true; }
 
     QSize sizeHint() const override { return size_; }
     QSize minimumSizeHint() const override { return size_; }
@@ -42,6 +44,7 @@ class LinkageSketch : public QWidget {
   private:
     QSize size_;
     std::optional<SketchPosition> position_;
+    bool numbers_links_ = false;
 };
 
 }  // namespace kervol

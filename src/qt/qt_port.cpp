@@ -25,6 +25,11 @@ void Place(FormWindow& window) {
     window.move(room.center() - window.rect().center());
 }
 
+/// Whether a modal screen leaves the modal one that opened it visible. Over Home all do.
+bool Stands_Over(ScreenId screen, ScreenId opener) {
+    return screen == ScreenId::frm_Matrix && opener == ScreenId::frm_MassProp;
+}
+
 }  // namespace
 
 QtPort::QtPort() = default;
@@ -85,6 +90,12 @@ void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
         case ScreenId::frm_Animate:
             Lay_Out_Animate(*form.window, animate_picture_);
             return Bind(form, screens_->frm_Animate);
+        case ScreenId::frm_MassProp:
+            Lay_Out_Mass_Prop(*form.window);
+            return Bind(form, screens_->frm_MassProp);
+        case ScreenId::frm_Matrix:
+            Lay_Out_Matrix(*form.window);
+            return Bind(form, screens_->frm_Matrix);
     }
 }
 
@@ -131,7 +142,10 @@ void QtPort::Open_Window(ScreenId screen, Modality modality) {
     window.setWindowModality(modality == Modality::Modal ? Qt::ApplicationModal : Qt::NonModal);
     Push_All();
     Place(window);
-    if (stack_.size() > 1) Form(stack_[stack_.size() - 2]->screen).hide();
+    if (stack_.size() > 1) {
+        const ScreenId opener = stack_[stack_.size() - 2]->screen;
+        if (!Stands_Over(screen, opener)) Form(opener).hide();
+    }
     window.show();
     // Shows the focus from the start, not only once a key has moved it.
     window.setAttribute(Qt::WA_KeyboardFocusChange);
@@ -159,12 +173,12 @@ void QtPort::Wait_For(ScreenId screen) {
     if (!ended_) Return_To_Opener();
 }
 
-/// A modal opener was hidden and comes back, unless it has closed; Home stayed visible and comes to the
-/// front.
+/// A modal opener comes back, unless it has closed; one that stayed visible comes to the front, as Home does.
 void QtPort::Return_To_Opener() {
     if (!stack_.empty()) {
         if (stack_.back()->closed) return;
         FormWindow& opener = Form(stack_.back()->screen);
+        if (opener.isVisible()) Activate_Screen(*screens_, stack_.back()->screen);
         Push_All();
         opener.show();
         opener.activateWindow();

@@ -40,6 +40,7 @@ class QtPort : public Port {
     void Set_Running(bool running) override;
     bool Hold_Picture(double milliseconds) override;
     void Print_Screen(ScreenId screen) override;
+    void Copy_Screen(ScreenId screen) override;
     std::string User_Name() override;
     std::string Long_Path(const std::string& path) override;
     DateAndTime Short_Date_And_Time() override;

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Printing a screen.
+// Printing and copying a screen.
+#include <QApplication>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QPainter>
 #include <QPrintDialog>
@@ -51,6 +53,10 @@ void QtPort::Print_Screen(ScreenId screen) {
     printer.setPageOrientation(form.width() > form.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer.setDocName(form.windowTitle());
     if (Choose_Printer(printer, form)) Paint_Form(printer, form);
+}
+
+void QtPort::Copy_Screen(ScreenId screen) {
+    QApplication::clipboard()->setPixmap(Form(screen).grab());
 }
 
 }  // namespace kervol

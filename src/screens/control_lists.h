@@ -3,6 +3,7 @@
 // controls is one entry; its members are called by the name, an underscore and their index.
 #pragma once
 
+#include <numeric>
 #include <string>
 
 #include "screens/screens.h"
@@ -15,6 +16,14 @@ void Visit_Members(Visitor& visit, const std::string& group, std::array<Record, 
                    const std::array<int, shown>& members) {
     for (const int member : members)
         visit((group + "_" + std::to_string(member)).c_str(), records.at(static_cast<std::size_t>(member)));
+}
+
+/// 1 to `count`.
+template <std::size_t count>
+constexpr std::array<int, count> Numbers_To() {
+    std::array<int, count> numbers{};
+    std::iota(numbers.begin(), numbers.end(), 1);
+    return numbers;
 }
 
 #define KERVOL_CONTROL(name) visit(#name, screen.name)
@@ -156,6 +165,52 @@ void Visit_Controls(AnimateScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(cmd_Step);
     KERVOL_CONTROL(cmd_Reset);
     KERVOL_CONTROL(cmd_Copy);
+    KERVOL_CONTROL(cmd_Done);
+}
+
+template <class Visitor>
+void Visit_Controls(MassPropScreen& screen, Visitor&& visit) {
+    KERVOL_CONTROL(lbl_Header);
+    KERVOL_MEMBERS(lbl_Segment, 2, 3, 4, 5, 6);
+    KERVOL_MEMBERS(txt_Mass, 2, 3, 4, 5, 6);
+    KERVOL_MEMBERS(txt_Inertia, 2, 3, 4, 5, 6);
+    KERVOL_MEMBERS(txt_DistCG, 2, 3, 4, 5, 6);
+    KERVOL_MEMBERS(txt_AngCG, 2, 3, 4, 5, 6);
+    KERVOL_MEMBERS(txt_MagForce, 3, 4, 5, 6);
+    KERVOL_MEMBERS(txt_AngForce, 3, 4, 5, 6);
+    KERVOL_MEMBERS(txt_DistP, 3, 4, 5, 6);
+    KERVOL_MEMBERS(txt_AngP, 3, 4, 5, 6);
+    KERVOL_MEMBERS(txt_Torque, 3, 4, 5, 6);
+    KERVOL_MEMBERS(txt_Frict, 3, 4, 5, 6);
+    KERVOL_CONTROL(lbl_MassUnit);
+    KERVOL_CONTROL(lbl_InertiaUnit);
+    KERVOL_CONTROL(lbl_TorqueUnit);
+    KERVOL_MEMBERS(Lbl_DistUnit, 1, 2);
+    KERVOL_MEMBERS(lbl_ForceUnit, 1, 2);
+    KERVOL_MEMBERS(lbl_AngUnit, 1, 2, 3);
+    KERVOL_CONTROL(chk_Torque);
+    KERVOL_CONTROL(cmd_Cancel);
+    KERVOL_CONTROL(cmd_Help);
+    KERVOL_CONTROL(cmd_Solve);
+    KERVOL_CONTROL(cmd_Matrix);
+    KERVOL_CONTROL(cmd_Print);
+    KERVOL_CONTROL(cmd_Copy);
+    KERVOL_CONTROL(cmd_Done);
+}
+
+template <class Visitor>
+void Visit_Controls(MatrixScreen& screen, Visitor&& visit) {
+    constexpr auto kNumbers = Numbers_To<NumEquations>();
+    KERVOL_CONTROL(lbl_Header);
+    for (const int row : kNumbers)
+        Visit_Members(visit, "lbl_A" + std::to_string(row), screen.lbl_A.at(static_cast<std::size_t>(row)),
+                      kNumbers);
+    Visit_Members(visit, "lbl_B", screen.lbl_B, kNumbers);
+    Visit_Members(visit, "lbl_Var", screen.lbl_Var, Numbers_To<2 * NumEquations>());
+    KERVOL_CONTROL(Label4);
+    KERVOL_CONTROL(cmd_Back);
+    KERVOL_CONTROL(cmd_Copy);
+    KERVOL_CONTROL(cmd_Print);
     KERVOL_CONTROL(cmd_Done);
 }
 

@@ -187,6 +187,7 @@ void Wire_Home_Screen(Screens& screens) {
     };
     on(home.cmd_Input.click, "frm_Homescreen.Input", opens(ScreenId::frm_Inputnew));
     on(home.cmd_Animate.click, "frm_Homescreen.Animate", cmd_Animate_Click);
+    on(home.cmd_Dynamics.click, "frm_Homescreen.Dynamics", opens(ScreenId::frm_MassProp));
     on(home.cmd_Quit.click, "frm_Homescreen.Quit", Quit);
     on(home.mnu_Quit.click, "frm_Homescreen.Quit", Quit);
     on(home.mnu_New.click, "frm_Homescreen.New", mnu_New_Click);

@@ -12,6 +12,8 @@
 #include "screens/geometry_fields.h"
 #include "screens/home_screen.h"
 #include "screens/input_events.h"
+#include "screens/mass_prop_events.h"
+#include "screens/matrix_events.h"
 #include "screens/motion_fields.h"
 #include "startup/launch.h"
 
@@ -91,6 +93,9 @@ constexpr auto kScreens = std::to_array<ScreenRow>({
     {ScreenId::frm_Inputnew, "frm_Inputnew", "Input Screen", Input_Form_Activate,
      CLOSES(frm_Inputnew.cmd_Cancel)},
     {ScreenId::frm_Animate, "frm_Animate", "Animation Screen", Animate_Form_Activate, Closing_Animate},
+    {ScreenId::frm_MassProp, "frm_MassProp", "Dynamics Screen", Mass_Prop_Form_Activate,
+     CLOSES(frm_MassProp.cmd_Cancel)},
+    {ScreenId::frm_Matrix, "frm_Matrix", "Matrix Screen", Matrix_Form_Activate, CLOSES(frm_Matrix.cmd_Back)},
     {ScreenId::frm_About, "frm_About", nullptr, nullptr, nullptr},
     {ScreenId::frm_Quit, "frm_Quit", nullptr, Quit_Form_Activate, CLOSES(frm_Quit.cmd_NoQuit)},
 });
@@ -116,6 +121,7 @@ void Fill_Screens(Screens& screens) {
     Put_Calc_Geometry(screens);
     Put_InitialCond(screens, screens.frm_Inputnew);
     Put_InitialCond(screens, screens.frm_Animate);
+    Put_Link_Data(model, screens.frm_MassProp);
     Put_OpenCross(model, screens.frm_Inputnew);
     Put_OpenCross(model, screens.frm_Animate);
     Put_Settings(model, screens.frm_Animate);
@@ -124,6 +130,7 @@ void Fill_Screens(Screens& screens) {
     for (MenuItem& pick : picks) pick.checked = false;
     const std::size_t system = model.UnitSystem <= 0 ? 1 : static_cast<std::size_t>(model.UnitSystem);
     if (system < picks.size()) picks[system].checked = true;
+    Put_Check(screens.frm_MassProp.chk_Torque, model.TorqueImported);
     Update_Home_Menu(screens);
 }
 
@@ -137,6 +144,8 @@ void Wire_Screens(Screens& screens) {
     Wire_Home_Screen(screens);
     Wire_Input_Screen(screens);
     Wire_Animate_Screen(screens);
+    Wire_Mass_Prop_Screen(screens);
+    Wire_Matrix_Screen(screens);
     on(screens.frm_Title.cmd_Start.click, "frm_Title.Start", cmd_Start_Click);
     on(screens.frm_Title.cmd_Abort.click, "frm_Title.Abort",
        [](Screens& all) { all.program.port.Show_Screen(ScreenId::frm_Quit, Modality::Modal); });

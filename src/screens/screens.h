@@ -6,6 +6,7 @@
 
 #include "core/controls.h"
 #include "core/program.h"
+#include "screens/dynamics_screens.h"
 #include "screens/linkage_screen.h"
 
 namespace kervol {
@@ -69,6 +70,8 @@ struct Screens {
     HomeScreen frm_HomeScreen;
     InputScreen frm_Inputnew;
     AnimateScreen frm_Animate;
+    MassPropScreen frm_MassProp;
+    MatrixScreen frm_Matrix;
     AboutScreen frm_About;
     QuitScreen frm_Quit;
 };

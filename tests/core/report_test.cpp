@@ -232,6 +232,17 @@ TEST_F(Report, ProcedureNamesTheRoutineThatRaised) {
     EXPECT_EQ(program->faults.entries, (std::vector<ReportedFault>{{6, "Cart_to_Polar"}}));
 }
 
+TEST_F(Report, AnAnnouncedProcedureSaysSoFirst) {
+    EXPECT_TRUE(Announced_Procedure(*program, "chk_Torque_Click", [] {}));
+    EXPECT_TRUE(port.calls.empty());
+    EXPECT_FALSE(Announced_Procedure(*program, "chk_Torque_Click", [] { Raise(11); }));
+    ASSERT_EQ(port.messages.size(), 2U);
+    EXPECT_EQ(port.messages[0].box.text, "An error has occurred in the chk_Torque_Click routine");
+    EXPECT_EQ(port.messages[0].box.icon, Icon::None);
+    EXPECT_EQ(port.messages[1].box.text,
+              "Error 11   (Division by zero)  has occurred in chk_Torque_Click\r\r");
+}
+
 TEST_F(Report, CallerOfAFailedProcedureGoesOn) {
     bool went_on = false;
     EXPECT_TRUE(Procedure(*program, "Outer", [&] {

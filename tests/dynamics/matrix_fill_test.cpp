@@ -54,13 +54,6 @@ TEST_F(MatrixFill, ValuesGoThroughSinglePrecision) {
     EXPECT_EQ(program->matrix.lbl_B(15).caption, "16,777,216.000");
 }
 
-TEST_F(MatrixFill, HeadsRowsAndColumnsWithTheUnknowns) {
-    Fill(0);
-    const char* names[] = {"",     "F12x", "F12y", "F32x", "F32y", "F43x", "F43y", "F14x",
-                           "F14y", "T12",  "F54x", "F54y", "F65x", "F65y", "F16x", "F16y"};
-    for (int i = 0; i <= 15; ++i) EXPECT_EQ(program->matrix.lbl_Var(i), names[i]);
-}
-
 TEST_F(MatrixFill, ANumberTooLargeIsItsOwnFaultAndKeepsTheLabelsBefore) {
     Fill(7);
     ForceSystem system;

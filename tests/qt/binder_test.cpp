@@ -357,6 +357,27 @@ TEST_F(BinderTest, CaptionsAreShownAsPlainTextAsTheyStand) {
     EXPECT_EQ(label_widget->textFormat(), Qt::PlainText);
 }
 
+TEST_F(BinderTest, ALabelTakesItsColourAndElseThatOfAllTexts) {
+    const QColor plain = label_widget->palette().color(QPalette::WindowText);
+    binder->Push();
+    EXPECT_EQ(label_widget->palette().color(QPalette::WindowText), plain);
+    label.colour = Colour{255, 0, 0};
+    binder->Push();
+    EXPECT_EQ(label_widget->palette().color(QPalette::WindowText), QColor(255, 0, 0));
+    label.colour = Colour{128, 128, 128};
+    binder->Push();
+    EXPECT_EQ(label_widget->palette().color(QPalette::WindowText), QColor(128, 128, 128));
+}
+
+TEST_F(BinderTest, AControlThatAHandlerEnablesCanTakeTheFocusAtOnce) {
+    button.enabled = false;
+    field_widget->setFocus();
+    binder->Push();
+    button.enabled = true;
+    binder->Set_Focus("cmd_a");
+    EXPECT_TRUE(button_widget->hasFocus());
+}
+
 TEST_F(BinderTest, NamesThatStandOnOneSideOnlyAreRefusedWithAList) {
     Label lost;
     binder->Add("lbl_lost", lost);

@@ -61,6 +61,12 @@ std::set<std::string> Names(Screens& screens, ScreenId screen) {
         case ScreenId::frm_Animate:
             Visit_Controls(screens.frm_Animate, list);
             break;
+        case ScreenId::frm_MassProp:
+            Visit_Controls(screens.frm_MassProp, list);
+            break;
+        case ScreenId::frm_Matrix:
+            Visit_Controls(screens.frm_Matrix, list);
+            break;
     }
     return list.names;
 }
@@ -115,8 +121,8 @@ TEST_F(FormsTest, AccessibleNamesAreThereAndUnique) {
 }
 
 TEST_F(FormsTest, EscapeAndTheCloseBoxLeaveAModalScreen) {
-    for (const ScreenId screen :
-         {ScreenId::frm_Disclaimer, ScreenId::frm_Inputnew, ScreenId::frm_About, ScreenId::frm_Quit}) {
+    for (const ScreenId screen : {ScreenId::frm_Disclaimer, ScreenId::frm_Inputnew, ScreenId::frm_MassProp,
+                                  ScreenId::frm_Matrix, ScreenId::frm_About, ScreenId::frm_Quit}) {
         for (const bool escape : {true, false}) {
             In(screen, [&](FormWindow& form) {
                 if (escape)

@@ -6,8 +6,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScrollBar>
 
+#include "core/units.h"
 #include "qt/window_test.h"
+#include "screens/launch_screens.h"
 
 namespace kervol {
 namespace {
@@ -99,6 +102,50 @@ TEST_F(LayoutTest, TheInputScreenShowsAllModesOfBothChainsWhole) {
             port.Fill_Screens();
             Check(form);
         }
+    });
+}
+
+TEST_F(LayoutTest, TheDynamicsScreenShowsLongNumbersAndAllUnitsWhole) {
+    LinkageModel& model = program->model;
+    for (int link = 2; link <= 6; ++link) {
+        model.LinkMass(link) = -0.00123F;
+        model.LinkInertia(link) = 123456.5F;
+        model.LinkCG(link, 1) = -6.2F;
+    }
+    for (const int units : {1, 2, 3, 4, 5}) {
+        model.UnitSystem = static_cast<std::int16_t>(units);
+        Put_Units(model);
+        In(ScreenId::frm_MassProp, [](FormWindow& form) {
+            form.resize(kRoom);
+            Check(form);
+        });
+    }
+}
+
+TEST_F(LayoutTest, TheMatrixScreenShowsLargeNumbersWhole) {
+    for (int row = 1; row <= 15; ++row) {
+        for (int column = 1; column <= 15; ++column)
+            program->matrix.lbl_A(row, column).caption = "-123,456.789";
+        program->matrix.lbl_B(row).caption = "-123,456,789.125";
+    }
+    In(ScreenId::frm_Matrix, [](FormWindow& form) {
+        EXPECT_LE(form.minimumSizeHint().width(), kRoom.width());
+        Check(form);
+    });
+}
+
+TEST_F(LayoutTest, TheMatrixOfAnExampleNeedsNoScrolling) {
+    for (int row = 1; row <= 15; ++row)
+        for (int column = 1; column <= 15; ++column) program->matrix.lbl_A(row, column).caption = "-12.345";
+    const FormWindow& window = port.Form(ScreenId::frm_Matrix);
+    Activate_Screen(screens, ScreenId::frm_Matrix);
+    port.Run({});
+    const QSize asked = window.sizeHint();
+    In(ScreenId::frm_Matrix, [asked](FormWindow& form) {
+        EXPECT_EQ(asked.boundedTo(kRoom), asked);
+        form.resize(asked);
+        QTest::qWait(1);
+        for (const auto* bar : form.findChildren<QScrollBar*>()) EXPECT_FALSE(bar->isVisible());
     });
 }
 

@@ -217,6 +217,8 @@ TEST_F(HomeRules, EveryButtonAndEntryDoesSomethingOrSaysWhyNot) {
     Visit_Controls(screens->frm_Title, controls);
     Visit_Controls(screens->frm_Disclaimer, controls);
     Visit_Controls(screens->frm_User, controls);
+    Visit_Controls(screens->frm_MassProp, controls);
+    Visit_Controls(screens->frm_Matrix, controls);
     Visit_Controls(screens->frm_Quit, controls);
     // Headings of menus, and the place that no unit system has.
     EXPECT_THAT(controls.dead, ElementsAre("mnu_Examples", "mnu_Export", "mnu_FFT", "mnu_Import", "mnu_Units",
@@ -226,13 +228,13 @@ TEST_F(HomeRules, EveryButtonAndEntryDoesSomethingOrSaysWhyNot) {
 
 TEST_F(HomeRules, WhatIsNotThereYetSaysSo) {
     for (const Control* control : std::initializer_list<const Control*>{
-             &home.cmd_Plot, &home.cmd_Print, &home.cmd_Dynamics, &home.cmd_Flywheel,
-             &home.mnu_Export_Link_Data, &home.mnu_Export_Torque, &home.mnu_Import_SVA,
-             &home.mnu_Import_Link2_Drive_Data, &home.mnu_CalcFFT})
+             &home.cmd_Plot, &home.cmd_Print, &home.cmd_Flywheel, &home.mnu_Export_Link_Data,
+             &home.mnu_Export_Torque, &home.mnu_Import_SVA, &home.mnu_Import_Link2_Drive_Data,
+             &home.mnu_CalcFFT, &screens->frm_MassProp.chk_Torque})
         EXPECT_NE(control->unavailable, "");
     for (const Control* control : std::initializer_list<const Control*>{
              &home.cmd_Input, &home.cmd_Quit, &home.mnu_Open, &home.mnu_Save, &home.cmd_Animate,
-             &input.cmd_Calc, &input.cmd_Animate, &input.cmd_Print})
+             &home.cmd_Dynamics, &input.cmd_Calc, &input.cmd_Animate, &input.cmd_Print})
         EXPECT_EQ(control->unavailable, "");
 }
 
