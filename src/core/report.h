@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <new>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -32,6 +33,19 @@ bool Procedure(Program& program, std::string_view name, Body&& body) {
         Report_Error(program, fault::OutOfMemory, name);
     }
     return false;
+}
+
+/// The same for the few procedures that first say themselves that there was an error.
+template <class Body>
+bool Announced_Procedure(Program& program, std::string_view name, Body&& body) {
+    return Procedure(program, name, [&] {
+        try {
+            std::forward<Body>(body)();
+        } catch (...) {
+            program.port.Show_Message({"An error has occurred in the " + std::string(name) + " routine"});
+            throw;
+        }
+    });
 }
 
 /// Marks the time of one sweep, over which repeated faults count as one.
