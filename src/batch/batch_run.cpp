@@ -24,10 +24,15 @@ struct RemedyEntry {
 constexpr std::string_view kTooManyPulses =
     "the crank torque has more pulses than the table holds, ten of each sign; reduce the range to one cycle";
 
+constexpr std::string_view kTooManyRows =
+    "a drive has at most 361 rows, counted up to 360, and mass data at most those of links 2 to 6";
+
 std::string_view Remedy(const ReportedFault& fault) {
     static constexpr auto kRemedies = std::to_array<RemedyEntry>({
         {fault::Subscript, kTooManyPulses, "Flywheel"},
         {fault::Subscript, kTooManyPulses, "Crank_Torque_Areas"},
+        {fault::Subscript, kTooManyRows, "Read_Cam_Data"},
+        {fault::Subscript, kTooManyRows, "Import_Linkage_Data"},
         {fault::Overflow, "a number there is too large"},
         {fault::Subscript, "there are more rows than the tables hold; reduce the number of steps"},
         {fault::DivisionByZero,
@@ -74,6 +79,14 @@ bool BatchRun::Load(const std::string& name) {
     return true;
 }
 
+bool BatchRun::Import_Drive(const std::string& path, ReadReport (*import)(Program&, const std::string&)) {
+    read_ = import(*program_, path);
+    if (read_.end == ReadEnd::Refused) refusal_ = port_.messages.back().box.text;
+    if (Outcome() == Done) return true;
+    source_ = path;
+    return false;
+}
+
 void BatchRun::Calculate() {
     end_ = Calculate_Model(*program_);
 }
@@ -115,8 +128,7 @@ std::string BatchRun::Write_Complaint(const std::string& path) const {
 
 std::string BatchRun::Reading_Complaint() const {
     if (read_.end == ReadEnd::Whole) return {};
-    if (read_.end == ReadEnd::Refused)
-        return "not a model of this program; its first line must be \"KERVOL for Windows\" or \"KERVOL\"";
+    if (read_.end == ReadEnd::Refused) return refusal_;
     return "no model stands behind the first two lines; save the model again";
 }
 

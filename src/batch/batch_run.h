@@ -31,6 +31,9 @@ class BatchRun {
     bool Open(const std::string& path);
     /// A fresh start followed by the example. False where there is none of that name.
     bool Load(const std::string& example);
+    /// Takes an imported drive in place of the model's own. False where it could not be taken whole; the
+    /// complaint then names its file.
+    bool Import_Drive(const std::string& path, ReadReport (*import)(Program&, const std::string&));
     void Calculate();
     /// The forces of every step with the model's own link data; nothing where its motion was not calculated.
     void Add_Dynamics();
@@ -47,6 +50,9 @@ class BatchRun {
     /// One line for a file that could not be written, after the fault was reported.
     std::string Write_Complaint(const std::string& path) const;
 
+    /// Whether a singular step ended the forces.
+    bool Forces_Stopped() const;
+
     Program& program() { return *program_; }
     /// How many steps `Add_Dynamics` solved; nothing before it.
     std::optional<int> solved_steps() const { return solved_steps_; }
@@ -57,13 +63,13 @@ class BatchRun {
     std::string Reading_Complaint() const;
     std::string Fault_Complaint() const;
     std::string Calculation_Complaint() const;
-    /// Whether a singular step ended the forces.
-    bool Forces_Stopped() const;
     std::string Forces_Complaint() const;
 
     RecordingPort port_;
     std::unique_ptr<Program> program_;
     std::string source_;
+    std::string refusal_ =
+        "not a model of this program; its first line must be \"KERVOL for Windows\" or \"KERVOL\"";
     ReadReport read_{ReadEnd::Whole, 0};
     CalculationEnd end_ = CalculationEnd::Done;
     std::optional<int> solved_steps_;

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "batch/batch_run.h"
+#include "batch/exchange.h"
 #include "batch/output_table.h"
 #include "batch/summary.h"
 #include "batch/tables_json.h"
@@ -50,6 +51,7 @@ struct Arguments {
     std::string format = "text";
     std::optional<std::int16_t> every;
     std::optional<std::int16_t> decimals;
+    ExchangeFiles exchange;
 };
 
 std::string Table_Text(Program& program, const SlotLabels& labels, const std::string& format) {
@@ -70,6 +72,8 @@ class Commands {
     int Info(const Arguments& arguments);
     int Convert(const Arguments& arguments);
     int Save_Example(const Arguments& arguments);
+    int Drive(const Arguments& arguments);
+    int Export(const Arguments& arguments);
     /// Writes a complaint as one line and returns the code.
     int Complain(ExitCode code, std::string text);
     /// False, after a complaint, where standard output does not take it.
@@ -196,6 +200,31 @@ int Commands::Save_Example(const Arguments& arguments) {
     run.Load(arguments.example);
     run.program().model.ModelName = StripFilename(Decoded(arguments.output));
     return Save(run, arguments.output);
+}
+
+int Commands::Drive(const Arguments& arguments) {
+    BatchRun run(Answer::Ignore);
+    Take_Model(run, arguments);
+    if (run.Outcome() != Done || !Take_Drive(run, arguments.exchange)) return Close(run);
+    const std::string& path = arguments.exchange.save;
+    if (!path.empty() && !Save_Model_As(run.program(), path))
+        return Complain(Failed, run.Write_Complaint(path));
+    run.Calculate();
+    const FurtherTables further = Add_Further(run, arguments);
+    if (!path.empty() && arguments.output.empty())
+        return Print("The driven model was written to " + path + "\n") ? Close(run) : Failed;
+    return Put_Out(run, Tables_Json(run.program(), run.port(), further), arguments);
+}
+
+int Commands::Export(const Arguments& arguments) {
+    BatchRun run(Answer::Ignore);
+    Take_Model(run, arguments);
+    if (run.Outcome() != Done) return Close(run);
+    if (!Calculate_For_Export(run, arguments.exchange))
+        return Complain(run.Outcome() == Failed ? Failed : GivenUp, run.Complaint());
+    const std::string& path = Export_Path(arguments.exchange);
+    if (!Write_Export(run.program(), arguments.exchange)) return Complain(Failed, run.Write_Complaint(path));
+    return Print("Data for the next linkage were written to " + path + "\n") ? Close(run) : Failed;
 }
 
 int Commands::Save(BatchRun& run, const std::string& path) {
@@ -345,6 +374,25 @@ void Add_Commands(CLI::App& app, Arguments& arguments) {
         ->check(CLI::IsMember(Example_Names()))
         ->type_name("");
     Add_Output(*example, arguments, "file to write (.kvl)")->required();
+
+    auto* drive = app.add_subcommand("drive", "Calculate a model under an imported drive");
+    Add_Source_Options(*drive, arguments);
+    Add_Drive_Options(*drive, arguments.exchange);
+    Add_Dynamics(*drive, arguments);
+    Add_Output(*drive, arguments, "write the tables there instead of to standard output");
+    drive->callback([&arguments] {
+        Require_One_Source(arguments);
+        Require_One_Drive(arguments.exchange);
+    });
+
+    auto* export_command =
+        app.add_subcommand("export", "Calculate a model and write what drives or loads another one");
+    Add_Source_Options(*export_command, arguments);
+    Add_Export_Options(*export_command, arguments.exchange);
+    export_command->callback([&arguments] {
+        Require_One_Source(arguments);
+        Require_One_Export(arguments.exchange);
+    });
 }
 
 int Run_Command(Commands& commands, const CLI::App& app, const Arguments& arguments) {
@@ -354,6 +402,8 @@ int Run_Command(Commands& commands, const CLI::App& app, const Arguments& argume
     if (name == "info") return commands.Info(arguments);
     if (name == "convert") return commands.Convert(arguments);
     if (name == "example") return commands.Save_Example(arguments);
+    if (name == "drive") return commands.Drive(arguments);
+    if (name == "export") return commands.Export(arguments);
     for (const LaterOption& later : kLaterOptions)
         if (app.get_subcommand("tables")->count(later.name) > 0)
             return commands.Complain(

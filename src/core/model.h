@@ -109,19 +109,20 @@ struct LinkageModel {
     float TimeStep{};           ///< the same
     std::string AngleRange;     ///< of link angles: "abs" 0 to 360, "180" -180 to 180, else not wrapped
 
-    // Imported drive and torque.
-    bool CamDriven{};           ///< the drive columns hold data of a cam s-v-a file
-    bool LinkDriven{};          ///< the drive columns hold data of a linkage output file
-    bool TorqueImported{};      ///< link 6 takes its torque from `Torque21Imported`
-    std::string DriveFileName;  ///< base name of the drive file with its extension
-    float DriveScale{};         ///< crank degrees for one unit of the imported cam displacement
-    float DriveOffset{};        ///< added to an imported cam curve, degrees
-    float DriveDatum{};         ///< imported zero angle, degrees
-    float DriveArmLength{};     ///< arm drawn at the driven pivot, length
-    float CamBaseRadius{};      ///< drawn cam radius, length
-    float CamRollerRadius{};    ///< drawn roller radius, length
-    float CamCentreX{};         ///< cam centre for drawing, length
-    float CamCentreY{};         ///< cam centre for drawing, length
+    // Imported drive and torque. The torque's name stands in no model file.
+    bool CamDriven{};            ///< the drive columns hold data of a cam s-v-a file
+    bool LinkDriven{};           ///< the drive columns hold data of a linkage output file
+    bool TorqueImported{};       ///< link 6 takes its torque from `Torque21Imported`
+    std::string DriveFileName;   ///< base name of the drive file with its extension
+    std::string TorqueFileName;  ///< base name of the torque file with its extension
+    float DriveScale{};          ///< crank degrees for one unit of the imported cam displacement
+    float DriveOffset{};         ///< added to an imported cam curve, degrees
+    float DriveDatum{};          ///< imported zero angle, degrees
+    float DriveArmLength{};      ///< arm drawn at the driven pivot, length
+    float CamBaseRadius{};       ///< drawn cam radius, length
+    float CamRollerRadius{};     ///< drawn roller radius, length
+    float CamCentreX{};          ///< cam centre for drawing, length
+    float CamCentreY{};          ///< cam centre for drawing, length
 
     // Link data by link number.
     LinkArray LinkMass;     ///< mass, links 2 to 6

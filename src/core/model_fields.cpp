@@ -93,6 +93,7 @@ constexpr auto kFields = std::to_array<ModelField>({
     FIELD(LinkDriven),
     FIELD(TorqueImported),
     FIELD(DriveFileName),
+    FIELD(TorqueFileName),
     FIELD(DriveScale),
     FIELD(DriveOffset),
     FIELD(DriveDatum),

@@ -141,6 +141,10 @@ std::string With_Sign_Blank(int value) {
     return (value < 0 ? "" : " ") + std::to_string(value);
 }
 
+std::string With_Sign_Blank(float value) {
+    return (std::signbit(value) ? "" : " ") + Plain_Number(value);
+}
+
 std::string FNRoundStr(double x, std::int16_t n) {
     return Routine("FNRoundStr", [&] {
         const double size = std::abs(Finite(x));

@@ -14,8 +14,9 @@ namespace kervol {
 std::string Plain_Number(float value);
 std::string Plain_Number(double value);
 
-/// An integer as it stands joined into some texts: with the leading blank that stands for the sign.
+/// A plain number with the leading blank that stands for the sign, as some texts and files have it.
 std::string With_Sign_Blank(int value);
+std::string With_Sign_Blank(float value);
 
 /// x as text with n decimals and digit grouping ("1,234.500"); n of 0 keeps the point ("5."), 5 and above
 /// gives six decimals in two groups ("0.123 457"), below 0 exponent form ("1.23E+4"). A half is rounded away

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/program.h"
-#include "files/model_file.h"
+#include "files/read_report.h"
 #include "files/value_reader.h"
 
 namespace kervol {

@@ -9,6 +9,7 @@
 #include "core/text_encoding.h"
 #include "core/units.h"
 #include "files/disk.h"
+#include "files/imported_rows.h"
 #include "files/legacy_file.h"
 #include "files/model_layout.h"
 #include "kinematics/sweep.h"
@@ -46,17 +47,12 @@ bool Has_Release2_Fields(const std::string& version, const std::string& release)
 
 void Read_Record(Program& program, ValueReader& file, const std::string& version) {
     LinkageModel& model = program.model;
-    ResultTables& tables = program.tables;
     std::string release;
     Read_Fields(Common_Fields(), model, file, release);
     if (!Has_Release2_Fields(version, release)) return;
     Read_Fields(Release2_Fields(), model, file, release);
-    for (int i = 0; model.CalcMode > 3 && i <= model.NumSteps; ++i) {
-        file.Read(tables.DriveTheta(i));
-        file.Read(tables.Omega(i, 0));
-        file.Read(tables.Alpha(i, 0));
-    }
-    for (int i = 0; model.TorqueImported && i <= model.NumSteps; ++i) file.Read(tables.Torque21Imported(i));
+    if (model.CalcMode > 3) Read_Drive_Rows(program, file);
+    if (model.TorqueImported) Read_Torque_Rows(program, file);
 }
 
 void Write_Values(const Program& program, ValueWriter& file) {

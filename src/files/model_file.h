@@ -2,27 +2,14 @@
 // The model file (.kvl): reading, writing, and what opening and saving do beside that.
 #pragma once
 
-#include <cstddef>
 #include <string>
 
 #include "core/program.h"
 #include "files/output_file.h"
+#include "files/read_report.h"
 #include "files/value_reader.h"
 
 namespace kervol {
-
-/// How far a file was read.
-enum class ReadEnd {
-    Nothing,  ///< the file could not be read, or ends before the first record: the model is as it was
-    Refused,  ///< a file of another kind: the model is as it was
-    Cut,      ///< a fault in the middle; fields not reached keep their values
-    Whole,
-};
-
-struct ReadReport {
-    ReadEnd end = ReadEnd::Nothing;
-    std::size_t line = 0;  ///< where reading stopped, 0 for a file that could not be opened
-};
 
 /// Reads a model file or a legacy file, told by its first line, and rebuilds all that follows from the
 /// fields. Shows that it was read, unless the program is starting up, or that the file is of another kind.

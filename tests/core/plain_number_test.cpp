@@ -220,6 +220,10 @@ TEST(WithSignBlank, PutsABlankBeforeZeroAndPositiveNumbers) {
     EXPECT_EQ(With_Sign_Blank(1025), " 1025");
     EXPECT_EQ(With_Sign_Blank(-3), "-3");
     EXPECT_EQ(With_Sign_Blank(std::numeric_limits<int>::min()), "-2147483648");
+    EXPECT_EQ(With_Sign_Blank(0.0F), " 0");
+    EXPECT_EQ(With_Sign_Blank(0.05F), " 0.05");
+    EXPECT_EQ(With_Sign_Blank(-1.5e-5F), "-1.5E-05");
+    EXPECT_EQ(With_Sign_Blank(-0.0F), "-0");
 }
 
 }  // namespace

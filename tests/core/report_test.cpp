@@ -259,5 +259,17 @@ TEST_F(Report, ProcedureTakesALackOfMemoryAsFault7) {
     EXPECT_EQ(port.calls, (Calls{"box", "home screen", "default pointer"}));
 }
 
+TEST_F(Report, AnnouncedProcedureSaysThatThereWasAnErrorBeforeItReportsWhich) {
+    EXPECT_TRUE(Announced_Procedure(*program, "Import", [] {}));
+    EXPECT_TRUE(port.messages.empty());
+    EXPECT_FALSE(Announced_Procedure(*program, "Import", [] { Raise(13); }));
+    ASSERT_EQ(port.messages.size(), 2U);
+    EXPECT_EQ(port.messages[0].box.text, "An error has occurred in the Import routine");
+    EXPECT_EQ(port.messages[0].box.icon, Icon::None);
+    EXPECT_EQ(port.messages[1].box.text, "Error 13   (Type mismatch)  has occurred in Import\r\r");
+    EXPECT_FALSE(Announced_Procedure(*program, "Import", [] { throw std::bad_alloc(); }));
+    EXPECT_EQ(program->faults.entries, (std::vector<ReportedFault>{{13, "Import"}, {7, "Import"}}));
+}
+
 }  // namespace
 }  // namespace kervol

@@ -2,13 +2,12 @@
 // Writing over a file without losing what it held.
 #include "files/output_file.h"
 
-#include <csignal>
 #include <filesystem>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "core/fault.h"
+#include "files/full_disk.h"
 #include "files/model_file.h"
 #include "files/without_rights.h"
 #include "support/program_test.h"
@@ -233,27 +232,6 @@ TEST(OutputFile, RefusesAFileWithoutTheRightToWriteItBeforeAnythingMoves) {
     EXPECT_EQ(Content_Of(path), "old");
     EXPECT_FALSE(fs::exists(path + "~"));
 }
-
-/// While it lives, no file can grow beyond that size, as on a full disk.
-class FullDisk {
-  public:
-    explicit FullDisk(rlim_t bytes) : old_handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &old_);
-        rlimit limit = old_;
-        limit.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, old_handler_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-  private:
-    rlimit old_{};
-    void (*old_handler_)(int);
-};
 
 TEST(OutputFile, AFullDiskLeavesTheFileAsFarAsItWasWritten) {
     const TemporaryFolder folder;

@@ -177,12 +177,12 @@ TEST_F(Initialized, LeavesEverythingElseAlone) {
     const std::vector<std::string> kept = {
         "ProgramTitle", "VersionText", "ProgramDate", "ReleaseText", "CaptionTail", "UserName", "StageText",
         "Stage1Class", "Stage2Class", "Coupler2Spare", "GroundAngleDeg", "GroundAngle", "O6O4AngleDeg",
-        "O6O4Angle", "CamDriven", "LinkDriven", "TorqueImported", "DriveFileName", "DriveScale",
-        "DriveOffset", "DriveDatum", "DriveArmLength", "CamBaseRadius", "CamRollerRadius", "CamCentreX",
-        "CamCentreY", "Theta2Rad", "Omega2", "Alpha2", "CurrentTime", "Theta3Rad", "Theta4Rad", "Theta5Rad",
-        "Theta6Rad", "Omega3Now", "Omega4Now", "Omega5Now", "Omega6Now", "Alpha3Now", "Alpha4Now",
-        "Alpha5Now", "Alpha6Now", "UnitSystem", "UnitText", "StepMode", "ShowTrace", "HideLinks", "DataSaved",
-        "SomeStepFailed", "Loading", "DataFromFile", "StartingUp",
+        "O6O4Angle", "CamDriven", "LinkDriven", "TorqueImported", "DriveFileName", "TorqueFileName",
+        "DriveScale", "DriveOffset", "DriveDatum", "DriveArmLength", "CamBaseRadius", "CamRollerRadius",
+        "CamCentreX", "CamCentreY", "Theta2Rad", "Omega2", "Alpha2", "CurrentTime", "Theta3Rad", "Theta4Rad",
+        "Theta5Rad", "Theta6Rad", "Omega3Now", "Omega4Now", "Omega5Now", "Omega6Now", "Alpha3Now",
+        "Alpha4Now", "Alpha5Now", "Alpha6Now", "UnitSystem", "UnitText", "StepMode", "ShowTrace", "HideLinks",
+        "DataSaved", "SomeStepFailed", "Loading", "DataFromFile", "StartingUp",
         // Set, to what they were.
         "NewData"};
     std::vector<std::string> changed = Differing_Fields(model, before);
