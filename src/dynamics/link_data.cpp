@@ -35,12 +35,14 @@ void Set_CG_Angle(LinkageModel& model, int link, double degrees) {
     model.LinkCG(link, 1) = Single(degrees * RadiansPerDegree);
 }
 
+void Resolve_External_Force(LinkageModel& model, int link) {
+    const double angle = model.ForceAngle(link) * RadiansPerDegree;
+    model.ForceX(link) = Single(model.ForceMag(link) * std::cos(angle));
+    model.ForceY(link) = Single(model.ForceMag(link) * std::sin(angle));
+}
+
 void Resolve_External_Forces(LinkageModel& model) {
-    for (int link = 3; link <= NumLinks; ++link) {
-        const double angle = model.ForceAngle(link) * RadiansPerDegree;
-        model.ForceX(link) = Single(model.ForceMag(link) * std::cos(angle));
-        model.ForceY(link) = Single(model.ForceMag(link) * std::sin(angle));
-    }
+    for (int link = 3; link <= NumLinks; ++link) Resolve_External_Force(model, link);
 }
 
 }  // namespace kervol

@@ -15,8 +15,10 @@ void Default_Mass_Properties(LinkageModel& model);
 double CG_Angle_Degrees(const LinkageModel& model, int link);
 void Set_CG_Angle(LinkageModel& model, int link, double degrees);
 
-/// Writes `ForceX` and `ForceY` of links 3 to 6 from `ForceMag` and `ForceAngle`. Deliberate: the angle,
+/// Writes `ForceX` and `ForceY` of a link from `ForceMag` and `ForceAngle`. Deliberate: the angle,
 /// given in the user frame, is taken in the local one as it is.
+void Resolve_External_Force(LinkageModel& model, int link);
+/// Those of links 3 to 6.
 void Resolve_External_Forces(LinkageModel& model);
 
 }  // namespace kervol

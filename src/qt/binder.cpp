@@ -14,6 +14,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <algorithm>
+#include <memory>
 #include <stdexcept>
 #include <utility>
 
@@ -24,6 +25,11 @@ bool Is_Enter(const QEvent& event) {
     if (event.type() != QEvent::KeyPress) return false;
     const int key = static_cast<const QKeyEvent&>(event).key();
     return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// Of a key that is held down.
+bool Is_Repeat(const QEvent& event) {
+    return static_cast<const QKeyEvent&>(event).isAutoRepeat();
 }
 
 /// Another window, a menu: the user is still in the field.
@@ -223,11 +229,20 @@ void Binder::Add(const std::string& name, ScrollBar& bar) {
 void Binder::Add(const std::string& name, ComboBox& box) {
     auto* widget = Take<QComboBox>(name);
     if (widget == nullptr) return;
-    connect(widget, &QComboBox::currentTextChanged, this, [this, &box](const QString& text) {
+    const auto take = [this, &box](const QString& text) {
         if (pushing_) return;
         Leave_Field();
         box.text = text.toStdString();
         Act(box, box.change);
+    };
+    // Picking what is shown already counts too; any other pick has changed the text before it is told.
+    const auto told = std::make_shared<bool>(false);
+    connect(widget, &QComboBox::currentTextChanged, this, [take, told](const QString& text) {
+        *told = true;
+        take(text);
+    });
+    connect(widget, &QComboBox::textActivated, this, [take, told](const QString& text) {
+        if (!std::exchange(*told, false)) take(text);
     });
     Push_Later([this, widget, &box] {
         const QSignalBlocker quiet(widget);
@@ -309,7 +324,7 @@ bool Binder::Field_Event(const Field& field, QEvent* event) {
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
     if (auto* button = qobject_cast<QPushButton*>(watched); button != nullptr && Is_Enter(*event)) {
-        button->click();
+        if (!Is_Repeat(*event)) button->click();
         return true;
     }
     const auto field =

@@ -12,7 +12,10 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && escape_closes && close_asked) return close_asked();
+    const bool escape = event->key() == Qt::Key_Escape && escape_closes;
+    // Held down it has closed or ended something already.
+    if (escape && event->isAutoRepeat()) return;
+    if (escape && close_asked) return close_asked();
     QWidget::keyPressEvent(event);
 }
 

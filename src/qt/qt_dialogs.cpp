@@ -102,6 +102,8 @@ Answer QtPort::Show_Message(const MessageBox& box) {
     // Escape must not abandon a run.
     if (box.buttons == Buttons::AbortRetryIgnore) shown.setEscapeButton(Button_Of(box.preset));
     const int pressed = shown.exec();
+    // Where no window manager does it.
+    if (QWidget* front = Front_Window()) front->activateWindow();
     if (busy) Set_Pointer(Pointer::Busy);
     Release_Stuck_Buttons(Front_Window());
     for (const AnswerButton& pair : kAnswers)

@@ -59,7 +59,7 @@ bool Moves_Focus(QEvent::Type type) {
 }
 
 bool Is_On(const QWidget& widget, const QEvent& event) {
-    const QPointF at = static_cast<const QSinglePointEvent&>(event).globalPosition();
+    const QPointF at = static_cast<const QPointerEvent&>(event).points().constFirst().globalPosition();
     return widget.rect().contains(widget.mapFromGlobal(at).toPoint());
 }
 
@@ -76,8 +76,7 @@ RunGate::~RunGate() {
 
 bool RunGate::eventFilter(QObject* watched, QEvent* event) {
     const QWidget* form = picture_.window();
-    if (watched == form->windowHandle())
-        return Moves_Focus(event->type()) && (event->type() == QEvent::TouchBegin || !Is_On(button_, *event));
+    if (watched == form->windowHandle()) return Moves_Focus(event->type()) && !Is_On(button_, *event);
     // A box over the run has to be answered.
     if (!watched->isWidgetType() || static_cast<QWidget*>(watched)->window() != form) return false;
     if (event->type() == QEvent::Close) {

@@ -95,9 +95,12 @@ void Recalc(Screens& screens) {
             Run_Sweep(program, model.CalcMode, response);
         const bool done = response != Answer::Abort;
         if (done) {
+            // What stands may be of the linkage before the edit.
+            Clear_Picture(screens.frm_Animate);
             program.animation.CurrentStep = 5;
             cmd_Step_Click(screens);
             model.DataFromFile = false;
+            Put_Calc_Geometry(screens);
             Enable_Outputs(screens.frm_Animate, true);
         }
         model.DataCalculated = done;

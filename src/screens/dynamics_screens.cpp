@@ -9,7 +9,6 @@ MassPropScreen::MassPropScreen() {
     for (const int link : kMovingLinks)
         lbl_Segment.at(static_cast<std::size_t>(link)).caption = std::to_string(link);
     chk_Torque.caption = "Import a Torque Function File to Apply to Link 6 ";
-    chk_Torque.unavailable = "Torque functions cannot be imported yet.";
     cmd_Solve.caption = "&Solve";
     cmd_Matrix.caption = "Show &Matrix";
     cmd_Done.caption = "&Next >";

@@ -51,6 +51,7 @@ void mnu_New_Click(Screens& screens) {
     Clear_Tables(program);
     program.model.DataCalculated = false;
     program.model.ModelTitle.clear();
+    screens.frm_Animate.cmb_wait.text = AnimateScreen().cmb_wait.text;
     Level_Ground(program.model);
     Fill_Screens(screens);
     Update_Home_Buttons(screens);

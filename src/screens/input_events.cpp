@@ -223,6 +223,8 @@ void opt_Calctype_Click(Screens& screens, std::int16_t mode) {
     model.CalcMode = mode;
     Show_Mode(screens);
     model.DataCalculated = false;
+    // One position has nothing to animate.
+    if (mode == 1) screens.frm_Inputnew.cmd_Animate.enabled = false;
 }
 
 void opt_OpenCross_Click(Screens& screens) {

@@ -7,6 +7,7 @@
 #include "core/report.h"
 #include "dynamics/link_data.h"
 #include "dynamics/solve_forces.h"
+#include "files/exchange.h"
 #include "screens/fields.h"
 #include "screens/home_screen.h"
 #include "screens/printing.h"
@@ -53,21 +54,30 @@ TextField& Field(LinkFields& fields, int link) {
     return fields.at(static_cast<std::size_t>(link));
 }
 
-/// Deliberate: friction is felt on the couplers alone; the fields of links 4 and 6 are shown and never taken.
-bool Is_Taken(const PlainColumn& column, int link) {
-    return column.values != &LinkageModel::LinkFriction || link == 3 || link == 5;
-}
-
+/// In the order in which a field that cannot be taken leaves the ones before it taken.
 void Take_Link_Data(MassPropScreen& screen, LinkageModel& model) {
+    const auto take = [&](LinkFields& fields, LinkArray& values, int link) {
+        values(link) = Number_In(Field(fields, link));
+    };
     for (const int link : kMovingLinks) {
-        for (const PlainColumn& column : kPlainColumns)
-            if (link >= column.first_link && Is_Taken(column, link))
-                (model.*column.values)(link) = Number_In(Field(screen.*column.fields, link));
+        take(screen.txt_Mass, model.LinkMass, link);
+        take(screen.txt_Inertia, model.LinkInertia, link);
         model.LinkCG(link, 0) = Number_In(Field(screen.txt_DistCG, link));
         // On the way through degrees an angle that nobody has changed would lose its last digit.
         const TextField& angle = Field(screen.txt_AngCG, link);
         if (!angle.put_value) Set_CG_Angle(model, link, Typed_Number(angle.text));
     }
+    for (int link = 3; link <= NumLinks; ++link) {
+        take(screen.txt_MagForce, model.ForceMag, link);
+        take(screen.txt_AngForce, model.ForceAngle, link);
+        Resolve_External_Force(model, link);
+        take(screen.txt_DistP, model.ForcePointDist, link);
+        take(screen.txt_AngP, model.ForcePointAngle, link);
+        take(screen.txt_Torque, model.LinkTorque, link);
+    }
+    // Deliberate: friction is felt on the couplers alone; the fields of links 4 and 6 are shown and never
+    // taken.
+    for (const int link : {3, 5}) take(screen.txt_Frict, model.LinkFriction, link);
 }
 
 void Put_Unit_Captions(const LinkageModel& model, MassPropScreen& screen) {
@@ -94,6 +104,18 @@ void cmd_Solve_Click(Screens& screens) {
     program.port.Set_Pointer(Pointer::Default);
 }
 
+/// Cancel and a refused file clear the box again, which undoes all that setting it did.
+void Import_Torque_Function(Screens& screens) {
+    MassPropScreen& screen = screens.frm_MassProp;
+    const auto path = screens.program.port.Ask_File_To_Open(
+        {"Open a Torque Data file", "Torque Import (*.trq)|*.trq|(*.*)|*.*|", "*.trq"});
+    const bool imported = path && Import_Torque(screens.program, *path) != ReadEnd::Refused;
+    if (imported)
+        screen.cmd_Solve.enabled = true;
+    else
+        Put_Check(screen.chk_Torque, false);
+}
+
 /// While an imported torque acts on link 6 its own field gives way.
 void chk_Torque_Click(Screens& screens) {
     Announced_Procedure(screens.program, "chk_Torque_Click", [&] {
@@ -104,6 +126,7 @@ void chk_Torque_Click(Screens& screens) {
         Put_Plain_Number(torque, imported ? 0 : model.LinkTorque(6));
         torque.enabled = screen.cmd_Solve.enabled = !imported;
         if (!imported) model.TorqueImported = false;
+        if (imported && !model.DataFromFile) Import_Torque_Function(screens);
     });
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Dynamics and the Matrix screen on real widgets: the table as a table, the focus, the ways between them.
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QImage>
 #include <QLabel>
@@ -210,10 +211,15 @@ TEST_F(DynamicsWindow, TheFigureWritesANumberInTheMiddleOfEachLink) {
     EXPECT_LT(changed.width(), 400);
 }
 
-TEST_F(DynamicsWindow, TheBoxForATorqueSaysWhyItIsOff) {
-    In(ScreenId::frm_MassProp, [](FormWindow& form) {
-        EXPECT_FALSE(Find<QWidget>(form, "chk_Torque").isEnabled());
-        EXPECT_EQ(Find<QWidget>(form, "chk_Torque").toolTip(), "Torque functions cannot be imported yet.");
+TEST_F(DynamicsWindow, ATorqueFileIsAskedForByTheBoxAndCancelClearsIt) {
+    program->model.DataFromFile = false;
+    In(ScreenId::frm_MassProp, [this](FormWindow& form) {
+        auto& box = Find<QCheckBox>(form, "chk_Torque");
+        Await([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        box.click();
+        EXPECT_FALSE(box.isChecked());
+        EXPECT_TRUE(Find<QWidget>(form, "cmd_Solve").isEnabled());
+        EXPECT_TRUE(Find<QWidget>(form, "txt_Torque_6").isEnabled());
     });
 }
 

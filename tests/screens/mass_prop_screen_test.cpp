@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The buttons of the Dynamics screen, the ways to it and from it, and the box for an imported torque.
+#include <fstream>
+#include <optional>
+
 #include "core/fault.h"
 #include "core/header.h"
+#include "files/exchange.h"
 #include "screens/launch_screens.h"
 #include "screens/mass_prop_fixture.h"
 #include "support/compare.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 
@@ -272,6 +277,83 @@ TEST_F(ImportedTorque, ThatASweepHasClearedIsUntickedWhenTheScreenOpens) {
     EXPECT_EQ(screen.txt_Torque[6].text, "12");
     EXPECT_TRUE(screen.txt_Torque[6].enabled);
     EXPECT_EQ(Buttons_On(), kOnlySolve);
+}
+
+class TorqueImport : public MassPropTest {
+  protected:
+    TorqueImport() {
+        Calculate_In_Mode(3);
+        model.LinkTorque(6) = 12;
+        Open();
+        port.dialogs.clear();
+    }
+
+    /// A file of as many rows as the model has steps.
+    std::string Written(const char* name, const std::string& content) {
+        const std::string path = folder / name;
+        std::ofstream(path, std::ios::binary) << content;
+        return path;
+    }
+    std::string Torque_File() {
+        model.DynamicsCalculated = true;
+        for (int step = 0; step <= model.NumSteps; ++step)
+            tables.TorqueTable(step, 3) = static_cast<float>(step);
+        const std::string path = folder / "load.trq";
+        EXPECT_TRUE(Export_Torque(*program, path));
+        while (Boxes_Left() > 0) Take_Box();
+        return path;
+    }
+    void Tick() {
+        screen.chk_Torque.on = true;
+        screen.chk_Torque.click();
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(TorqueImport, TakesTheFileAndLetsItBeSolved) {
+    const std::string path = Torque_File();
+    port.files = {path};
+    Tick();
+    ASSERT_EQ(port.dialogs.size(), 1U);
+    EXPECT_EQ(port.dialogs[0].title, "Open a Torque Data file");
+    EXPECT_EQ(port.dialogs[0].filter, "Torque Import (*.trq)|*.trq|(*.*)|*.*|");
+    EXPECT_EQ(port.dialogs[0].name, "*.trq");
+    EXPECT_EQ(Take_Box().text, "File " + path + " of Torque data successfully read.");
+    EXPECT_TRUE(model.TorqueImported);
+    EXPECT_TRUE(screen.chk_Torque.on);
+    EXPECT_TRUE(screen.cmd_Solve.enabled);
+    EXPECT_EQ(screen.txt_Torque[6].text, "0");
+    EXPECT_FALSE(screen.txt_Torque[6].enabled);
+    EXPECT_FALSE(model.DataSaved);
+}
+
+TEST_F(TorqueImport, IsUndoneByCancelAndByARefusedFile) {
+    const std::string other = Written("other.trq", "7\r\n");
+    for (const auto& answer : {std::optional<std::string>(), std::optional<std::string>(other)}) {
+        port.files = {answer};
+        Tick();
+        while (Boxes_Left() > 0) Take_Box();
+        EXPECT_FALSE(screen.chk_Torque.on);
+        EXPECT_FALSE(model.TorqueImported);
+        EXPECT_TRUE(screen.cmd_Solve.enabled);
+        EXPECT_EQ(screen.txt_Torque[6].text, "12");
+        EXPECT_TRUE(screen.txt_Torque[6].enabled);
+    }
+}
+
+TEST_F(MassPropButtons, WhatStandsBeforeAFieldThatCannotBeTakenIsTaken) {
+    Calculate_In_Mode(3);
+    Open();
+    Type(screen.txt_Mass[6], "5");
+    Type(screen.txt_DistCG[3], "2");
+    Type(screen.txt_MagForce[3], "10");
+    Type(screen.txt_DistP[3], "1e39");
+    screen.cmd_Solve.click();
+    Expect_Fault(6, "cmd_solve_Click");
+    EXPECT_EQ(model.LinkMass(6), 5);
+    EXPECT_EQ(model.LinkCG(3, 0), 2);
+    EXPECT_EQ(model.ForceX(3), 10);
 }
 
 }  // namespace
