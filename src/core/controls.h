@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "core/picture.h"
+
 namespace kervol {
 
 /// What happens when a person uses a control; empty where nothing does.
@@ -22,6 +24,7 @@ struct Control {
 
 struct Label : Control {
     std::string caption;
+    std::optional<Colour> colour;  ///< of the text; without one that of all texts
 };
 
 struct Button : Control {
@@ -53,6 +56,13 @@ struct CheckBox : Control {
     Event click;
 };
 
+/// A write by the program raises the click as a person's would.
+inline void Put_Check(CheckBox& box, bool on) {
+    if (box.on == on) return;
+    box.on = on;
+    if (box.click) box.click();
+}
+
 struct ScrollBar : Control {
     int minimum = 0;
     int maximum = 0;
@@ -67,10 +77,17 @@ inline void Put_Value(ScrollBar& bar, int value) {
     if (bar.change) bar.change();
 }
 
+/// A list whose choice stands as text; the text may be none of the list's.
 struct ComboBox : Control {
     std::string text;
     std::vector<std::string> items;
-    Event change;
+    Event change;               ///< the text is another one, however it came about
+    Event click, double_click;  ///< an entry was picked, also the one that stands
+};
+
+/// A picture to point at.
+struct PictureBox : Control {
+    Event click, double_click;
 };
 
 struct MenuItem : Control {

@@ -45,6 +45,13 @@ enum class ScreenId {
     frm_Inputnew,
     frm_Animate,
     frm_About,
+    frm_PlotType,
+    frm_PlotSelect1,
+    frm_PlotSelect2,
+    frm_PlotSelect3,
+    frm_PlotSelect4,
+    frm_PrintSelect,
+    frm_PrintData,
     frm_Quit,
 };
 inline constexpr std::size_t NumScreens = static_cast<std::size_t>(ScreenId::frm_Quit) + 1;
@@ -92,6 +99,8 @@ class Port {
     virtual bool Hold_Picture(double milliseconds) = 0;
     /// Prints an image of the screen.
     virtual void Print_Screen(ScreenId screen) = 0;
+    /// Puts an image of the screen on the clipboard.
+    virtual void Copy_Screen(ScreenId screen) = 0;
     /// Shows the printer dialog. A printer with an empty document; nothing after Cancel, or where no lines
     /// can be printed.
     virtual std::unique_ptr<Printer> Ask_Printer() { return nullptr; }

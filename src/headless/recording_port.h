@@ -32,6 +32,7 @@ class RecordingPort : public Port {
     void Set_Running(bool running) override { runs.push_back(running); }
     bool Hold_Picture(double milliseconds) override;
     void Print_Screen(ScreenId screen) override { printed.push_back(screen); }
+    void Copy_Screen(ScreenId screen) override { copied.push_back(screen); }
     std::unique_ptr<Printer> Ask_Printer() override;
     std::string User_Name() override { return user_name; }
     std::string Long_Path(const std::string& path) override;
@@ -52,6 +53,7 @@ class RecordingPort : public Port {
     std::vector<ScreenId> screens;  ///< in the order in which they were shown
     std::vector<ScreenId> hidden;
     std::vector<ScreenId> printed;
+    std::vector<ScreenId> copied;
     std::vector<bool> runs;                ///< beginnings and ends of runs
     std::vector<double> holds;             ///< milliseconds
     std::list<PrintedDocument> documents;  ///< a list, since printers keep hold of them

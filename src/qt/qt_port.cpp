@@ -24,6 +24,11 @@ void Place(FormWindow& window) {
     window.move(room.center() - window.rect().center());
 }
 
+/// Whether a modal screen leaves the modal one that opened it visible. Over Home all do.
+bool Stands_Over(ScreenId screen, ScreenId opener) {
+    return screen == ScreenId::frm_PrintData && opener == ScreenId::frm_PrintSelect;
+}
+
 }  // namespace
 
 QtPort::QtPort() = default;
@@ -57,6 +62,11 @@ void QtPort::Bind(OpenForm& form, Record& record) {
     form.binder->Check_Names();
 }
 
+void QtPort::Lay_Out_And_Bind(OpenForm& form, PlotSelectScreen& screen) {
+    Lay_Out_Plot_Select(*form.window, screen.kind);
+    Bind(form, screen);
+}
+
 void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
     switch (screen) {
         case ScreenId::frm_Title:
@@ -83,6 +93,23 @@ void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
         case ScreenId::frm_Animate:
             Lay_Out_Animate(*form.window, animate_picture_);
             return Bind(form, screens_->frm_Animate);
+        case ScreenId::frm_PlotType:
+            Lay_Out_Plot_Type(*form.window);
+            return Bind(form, screens_->frm_PlotType);
+        case ScreenId::frm_PlotSelect1:
+            return Lay_Out_And_Bind(form, screens_->frm_PlotSelect1);
+        case ScreenId::frm_PlotSelect2:
+            return Lay_Out_And_Bind(form, screens_->frm_PlotSelect2);
+        case ScreenId::frm_PlotSelect3:
+            return Lay_Out_And_Bind(form, screens_->frm_PlotSelect3);
+        case ScreenId::frm_PlotSelect4:
+            return Lay_Out_And_Bind(form, screens_->frm_PlotSelect4);
+        case ScreenId::frm_PrintSelect:
+            Lay_Out_Print_Select(*form.window);
+            return Bind(form, screens_->frm_PrintSelect);
+        case ScreenId::frm_PrintData:
+            Lay_Out_Print_Data(*form.window);
+            return Bind(form, screens_->frm_PrintData);
     }
 }
 
@@ -129,7 +156,10 @@ void QtPort::Open_Window(ScreenId screen, Modality modality) {
     window.setWindowModality(modality == Modality::Modal ? Qt::ApplicationModal : Qt::NonModal);
     Push_All();
     Place(window);
-    if (stack_.size() > 1) Form(stack_[stack_.size() - 2]->screen).hide();
+    if (stack_.size() > 1) {
+        const ScreenId opener = stack_[stack_.size() - 2]->screen;
+        if (!Stands_Over(screen, opener)) Form(opener).hide();
+    }
     window.show();
     // Shows the focus from the start, not only once a key has moved it.
     window.setAttribute(Qt::WA_KeyboardFocusChange);
@@ -157,12 +187,12 @@ void QtPort::Wait_For(ScreenId screen) {
     if (!ended_) Return_To_Opener();
 }
 
-/// A modal opener was hidden and comes back, unless it has closed; Home stayed visible and comes to the
-/// front.
+/// A modal opener comes back, unless it has closed; one that stayed visible comes to the front, as Home does.
 void QtPort::Return_To_Opener() {
     if (!stack_.empty()) {
         if (stack_.back()->closed) return;
         FormWindow& opener = Form(stack_.back()->screen);
+        if (opener.isVisible()) Activate_Screen(*screens_, stack_.back()->screen);
         Push_All();
         opener.show();
         opener.activateWindow();

@@ -42,12 +42,6 @@ void Clear_Picture(AnimateScreen& screen) {
     if (screen.Picture1 != nullptr) screen.Picture1->Clear();
 }
 
-void Put_Check(CheckBox& box, bool on) {
-    if (box.on == on) return;
-    box.on = on;
-    if (box.click) box.click();
-}
-
 void Show_Position(Screens& screens, std::int16_t step) {
     screens.program.animation.CurrentStep = step;
     if (Can_Draw(screens.program.model, step))
@@ -152,8 +146,7 @@ void cmb_wait_Change(Screens& screens) {
 }
 
 void cmd_Copy_Click(Screens& screens) {
-    if (Confirm_Printing(screens.program.port, ScreenId::frm_Animate))
-        screens.program.port.Print_Screen(ScreenId::frm_Animate);
+    Print_Form(screens.program.port, ScreenId::frm_Animate);
 }
 
 void cmd_Done_Click(Screens& screens) {

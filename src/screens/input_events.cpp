@@ -139,8 +139,7 @@ void cmd_Animate_Click(Screens& screens) {
 }
 
 void cmd_Print_Click(Screens& screens) {
-    if (Confirm_Printing(screens.program.port, ScreenId::frm_Inputnew))
-        screens.program.port.Print_Screen(ScreenId::frm_Inputnew);
+    Print_Form(screens.program.port, ScreenId::frm_Inputnew);
 }
 
 /// After an edit: calculate at once, or clear what no longer holds.

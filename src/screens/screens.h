@@ -7,6 +7,7 @@
 #include "core/controls.h"
 #include "core/program.h"
 #include "screens/linkage_screen.h"
+#include "screens/selection_screens.h"
 
 namespace kervol {
 
@@ -70,6 +71,13 @@ struct Screens {
     InputScreen frm_Inputnew;
     AnimateScreen frm_Animate;
     AboutScreen frm_About;
+    PlotTypeScreen frm_PlotType;
+    PlotSelectScreen frm_PlotSelect1{kPlotSelect1};
+    PlotSelectScreen frm_PlotSelect2{kPlotSelect2};
+    PlotSelectScreen frm_PlotSelect3{kPlotSelect3};
+    PlotSelectScreen frm_PlotSelect4{kPlotSelect4};
+    PrintSelectScreen frm_PrintSelect;
+    PrintDataScreen frm_PrintData;
     QuitScreen frm_Quit;
 };
 
