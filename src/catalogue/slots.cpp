@@ -33,7 +33,7 @@ void Confirm_Slot(const CatalogueNames& names, Selections& selections, SlotBoxes
     Set_Selection(names, selections, boxes.variable, k);
     if (selections.SelScalar) boxes.component = names.ComponentName(component::Mag);
     Set_Component(names, selections, boxes.component, k);
-    if (selections.SelScalar) selections.SelCompName(k) = "Magnitude";
+    if (selections.SelScalar) selections.SelCompName(k) = ScalarComponentName;
 }
 
 bool Put_Preset(const CatalogueNames& names, std::string_view title, std::span<SlotBoxes> boxes) {

@@ -16,6 +16,9 @@ namespace kervol {
 
 inline constexpr std::size_t NumSlots = 4;
 
+/// What the component of a scalar is called, while its box shows "Mag".
+inline constexpr const char* ScalarComponentName = "Magnitude";
+
 /// Texts of the boxes of one slot.
 struct SlotBoxes {
     std::string variable;

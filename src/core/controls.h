@@ -77,10 +77,17 @@ inline void Put_Value(ScrollBar& bar, int value) {
     if (bar.change) bar.change();
 }
 
+/// A list whose choice stands as text; the text may be none of the list's.
 struct ComboBox : Control {
     std::string text;
     std::vector<std::string> items;
-    Event change;
+    Event change;               ///< the text is another one, however it came about
+    Event click, double_click;  ///< an entry was picked, also the one that stands
+};
+
+/// A picture to point at.
+struct PictureBox : Control {
+    Event click, double_click;
 };
 
 struct MenuItem : Control {

@@ -12,6 +12,8 @@ class Grid {
     int width = 0;         ///< of the whole grid on the screen, set by what shows it
     int column_width = 0;  ///< of each column, in the same unit; its texts are centred
 
+    bool operator==(const Grid&) const = default;
+
     int Rows() const { return rows_; }
     int Columns() const { return columns_; }
 

@@ -47,6 +47,13 @@ enum class ScreenId {
     frm_MassProp,
     frm_Matrix,
     frm_About,
+    frm_PlotType,
+    frm_PlotSelect1,
+    frm_PlotSelect2,
+    frm_PlotSelect3,
+    frm_PlotSelect4,
+    frm_PrintSelect,
+    frm_PrintData,
     frm_Quit,
 };
 inline constexpr std::size_t NumScreens = static_cast<std::size_t>(ScreenId::frm_Quit) + 1;

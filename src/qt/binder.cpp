@@ -18,6 +18,10 @@
 #include <stdexcept>
 #include <utility>
 
+#include "qt/data_table.h"
+#include "qt/pick_list.h"
+#include "qt/plot_kind_picture.h"
+
 namespace kervol {
 namespace {
 
@@ -195,10 +199,14 @@ void Binder::Add_Options(const std::string& name, OptionButton* options, std::si
     }
     Push_Later([this, group, widgets, options] {
         group->setExclusive(false);
+        const bool any = std::any_of(options, options + widgets.size(),
+                                     [](const OptionButton& option) { return option.on; });
         for (std::size_t i = 0; i < widgets.size(); ++i) {
             const QSignalBlocker quiet(widgets[i]);
             widgets[i]->setText(Shown_Caption(options[i].caption));
             widgets[i]->setChecked(options[i].on);
+            // The tab key goes to the chosen one alone; the arrow keys lead to the others.
+            widgets[i]->setFocusPolicy(options[i].on || !any ? Qt::StrongFocus : Qt::ClickFocus);
             Push_Common(*widgets[i], options[i]);
         }
         group->setExclusive(true);
@@ -226,7 +234,41 @@ void Binder::Add(const std::string& name, ScrollBar& bar) {
     });
 }
 
+void Binder::Add_List(PickList& widget, ComboBox& box) {
+    const auto act = [this, &box](Event ComboBox::*event) {
+        return [this, &box, event](const std::string& text) {
+            Leave_Field();
+            box.text = text;
+            Act(box, box.*event);
+        };
+    };
+    widget.picked = act(&ComboBox::click);
+    widget.picked_twice = act(&ComboBox::double_click);
+    Push_Later([this, &widget, &box] {
+        widget.Show(box.items, box.text);
+        Push_Common(widget, box);
+    });
+}
+
+void Binder::Add(const std::string& name, PictureBox& picture) {
+    auto* widget = Take<PlotKindPicture>(name);
+    if (widget == nullptr) return;
+    widget->clicked = [this, &picture] { Act(picture, picture.click); };
+    widget->double_clicked = [this, &picture] { Act(picture, picture.double_click); };
+    Push_Later([this, widget, &picture] { Push_Common(*widget, picture); });
+}
+
+void Binder::Add(const std::string& name, Grid& grid) {
+    auto* widget = Take<DataTable>(name);
+    if (widget == nullptr) return;
+    Push_Later([widget, &grid] { widget->Show(grid); });
+}
+
 void Binder::Add(const std::string& name, ComboBox& box) {
+    if (auto* list = form_.findChild<PickList*>(Qt_Text(name))) {
+        names_.insert(name);
+        return Add_List(*list, box);
+    }
     auto* widget = Take<QComboBox>(name);
     if (widget == nullptr) return;
     const auto take = [this, &box](const QString& text) {

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "core/controls.h"
+#include "core/grid.h"
 
 class QAbstractButton;
 class QAction;
@@ -20,6 +21,8 @@ class QLineEdit;
 class QWidget;
 
 namespace kervol {
+
+class PickList;
 
 /// A caption as a widget shows it: as it stands, with line breaks of either kind.
 QString Shown_Caption(const std::string& caption);
@@ -39,7 +42,10 @@ class Binder : public QObject {
     void Add(const std::string& name, Frame& frame);
     void Add(const std::string& name, CheckBox& box);
     void Add(const std::string& name, ScrollBar& bar);
+    /// Shown by a combo box, or by a list, of which alone the picks are events.
     void Add(const std::string& name, ComboBox& box);
+    void Add(const std::string& name, PictureBox& picture);
+    void Add(const std::string& name, Grid& grid);
     void Add(const std::string& name, MenuItem& item);
     template <std::size_t count>
     void Add(const std::string& name, std::array<OptionButton, count>& group) {
@@ -70,6 +76,7 @@ class Binder : public QObject {
         QLineEdit* widget = nullptr;
     };
 
+    void Add_List(PickList& widget, ComboBox& box);
     void Add_Options(const std::string& name, OptionButton* options, std::size_t count);
     template <class Widget>
     Widget* Take(const std::string& name);

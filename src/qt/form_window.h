@@ -10,6 +10,7 @@
 namespace kervol {
 
 class PictureList;
+struct SelectionKind;
 
 class FormWindow : public QWidget {
   public:
@@ -37,6 +38,10 @@ void Lay_Out_Animate(FormWindow& form, PictureList& picture);
 void Lay_Out_Mass_Prop(FormWindow& form);
 void Lay_Out_Matrix(FormWindow& form);
 void Lay_Out_About(FormWindow& form);
+void Lay_Out_Plot_Type(FormWindow& form);
+void Lay_Out_Plot_Select(FormWindow& form, const SelectionKind& kind);
+void Lay_Out_Print_Select(FormWindow& form);
+void Lay_Out_Print_Data(FormWindow& form);
 void Lay_Out_Quit(FormWindow& form);
 
 }  // namespace kervol

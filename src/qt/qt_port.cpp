@@ -27,7 +27,8 @@ void Place(FormWindow& window) {
 
 /// Whether a modal screen leaves the modal one that opened it visible. Over Home all do.
 bool Stands_Over(ScreenId screen, ScreenId opener) {
-    return screen == ScreenId::frm_Matrix && opener == ScreenId::frm_MassProp;
+    return (screen == ScreenId::frm_Matrix && opener == ScreenId::frm_MassProp) ||
+           (screen == ScreenId::frm_PrintData && opener == ScreenId::frm_PrintSelect);
 }
 
 }  // namespace
@@ -64,6 +65,11 @@ void QtPort::Bind(OpenForm& form, Record& record) {
     form.binder->Check_Names();
 }
 
+void QtPort::Lay_Out_And_Bind(OpenForm& form, PlotSelectScreen& screen) {
+    Lay_Out_Plot_Select(*form.window, screen.kind);
+    Bind(form, screen);
+}
+
 void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
     switch (screen) {
         case ScreenId::frm_Title:
@@ -96,6 +102,23 @@ void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
         case ScreenId::frm_Matrix:
             Lay_Out_Matrix(*form.window);
             return Bind(form, screens_->frm_Matrix);
+        case ScreenId::frm_PlotType:
+            Lay_Out_Plot_Type(*form.window);
+            return Bind(form, screens_->frm_PlotType);
+        case ScreenId::frm_PlotSelect1:
+            return Lay_Out_And_Bind(form, screens_->frm_PlotSelect1);
+        case ScreenId::frm_PlotSelect2:
+            return Lay_Out_And_Bind(form, screens_->frm_PlotSelect2);
+        case ScreenId::frm_PlotSelect3:
+            return Lay_Out_And_Bind(form, screens_->frm_PlotSelect3);
+        case ScreenId::frm_PlotSelect4:
+            return Lay_Out_And_Bind(form, screens_->frm_PlotSelect4);
+        case ScreenId::frm_PrintSelect:
+            Lay_Out_Print_Select(*form.window);
+            return Bind(form, screens_->frm_PrintSelect);
+        case ScreenId::frm_PrintData:
+            Lay_Out_Print_Data(*form.window);
+            return Bind(form, screens_->frm_PrintData);
     }
 }
 

@@ -41,6 +41,7 @@ class QtPort : public Port {
     bool Hold_Picture(double milliseconds) override;
     void Print_Screen(ScreenId screen) override;
     void Copy_Screen(ScreenId screen) override;
+    std::unique_ptr<Printer> Ask_Printer() override;
     std::string User_Name() override;
     std::string Long_Path(const std::string& path) override;
     DateAndTime Short_Date_And_Time() override;
@@ -66,6 +67,7 @@ class QtPort : public Port {
 
     OpenForm& Made_Form(ScreenId screen);
     void Lay_Out(ScreenId screen, OpenForm& form);
+    void Lay_Out_And_Bind(OpenForm& form, PlotSelectScreen& screen);
     template <class Record>
     void Bind(OpenForm& form, Record& record);
     void Open_Window(ScreenId screen, Modality modality);
@@ -76,7 +78,7 @@ class QtPort : public Port {
     QWidget* Front_Window();
 
     std::optional<std::string> Ask_File(const FileDialog& dialog, bool saving);
-    bool Choose_Printer(QPrinter& printer, const QWidget& form);
+    bool Choose_Printer(QPrinter& printer, const QString& document);
 
     Screens* screens_ = nullptr;
     PictureList input_picture_, animate_picture_;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Printing and copying a screen.
+// Printing and copying a screen, and printing lines.
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
@@ -11,10 +11,15 @@
 #include <algorithm>
 
 #include "core/fault.h"
+#include "qt/page_printer.h"
 #include "qt/qt_port.h"
 
 namespace kervol {
 namespace {
+
+constexpr double kPageMargin = 15;  // millimetres
+/// A table's header, its rows and the empty lines below them.
+constexpr int kLinesPerPage = 71;
 
 /// The form as large as the page takes it. Drawn anew in light colours, so that its texts stay texts and a
 /// dark desktop does not fill the page with ink.
@@ -33,10 +38,11 @@ void Paint_Form(QPrinter& printer, QWidget& form) {
 
 }  // namespace
 
-bool QtPort::Choose_Printer(QPrinter& printer, const QWidget& form) {
+bool QtPort::Choose_Printer(QPrinter& printer, const QString& document) {
+    printer.setDocName(document);
     if (!QPrinterInfo::availablePrinterNames().isEmpty()) {
         QPrintDialog dialog(&printer, Front_Window());
-        dialog.setWindowTitle("Print " + form.windowTitle());
+        dialog.setWindowTitle("Print " + document);
         return dialog.exec() == QDialog::Accepted;
     }
     const auto file = Ask_File_To_Save({"No printer was found: save as PDF", "PDF (*.pdf)|*.pdf|",
@@ -51,8 +57,14 @@ void QtPort::Print_Screen(ScreenId screen) {
     FormWindow& form = Form(screen);
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageOrientation(form.width() > form.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
-    printer.setDocName(form.windowTitle());
-    if (Choose_Printer(printer, form)) Paint_Form(printer, form);
+    if (Choose_Printer(printer, form.windowTitle())) Paint_Form(printer, form);
+}
+
+std::unique_ptr<Printer> QtPort::Ask_Printer() {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setPageMargins({kPageMargin, kPageMargin, kPageMargin, kPageMargin}, QPageLayout::Millimeter);
+    if (!Choose_Printer(*printer, Qt_Text(screens_->program.model.ModelName))) return nullptr;
+    return std::make_unique<PagePrinter>(std::move(printer), kLinesPerPage);
 }
 
 void QtPort::Copy_Screen(ScreenId screen) {

@@ -26,6 +26,20 @@ constexpr std::array<int, count> Numbers_To() {
     return numbers;
 }
 
+/// The first members of a group whose names end in their numbers, from 1.
+template <class Visitor, class Record, std::size_t count>
+void Visit_Slots(Visitor& visit, const std::string& group, std::array<Record, count>& records,
+                 std::size_t shown) {
+    for (std::size_t i = 0; i < shown; ++i) visit((group + std::to_string(i + 1)).c_str(), records.at(i));
+}
+
+/// The first members of a group whose names end in their indices.
+template <class Visitor, class Record, std::size_t count>
+void Visit_First(Visitor& visit, const std::string& group, std::array<Record, count>& records,
+                 std::size_t shown) {
+    for (std::size_t i = 0; i < shown; ++i) visit((group + "_" + std::to_string(i)).c_str(), records.at(i));
+}
+
 #define KERVOL_CONTROL(name) visit(#name, screen.name)
 #define KERVOL_MEMBERS(name, ...) Visit_Members(visit, #name, screen.name, std::array{__VA_ARGS__})
 
@@ -218,6 +232,65 @@ template <class Visitor>
 void Visit_Controls(AboutScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(lblHeader);
     KERVOL_CONTROL(lbl_Version);
+}
+
+template <class Visitor>
+void Visit_Controls(PlotTypeScreen& screen, Visitor&& visit) {
+    KERVOL_CONTROL(opt_PickPlot);
+    KERVOL_CONTROL(pct_PickPlot);
+    KERVOL_CONTROL(cmd_CancelPickPlot);
+    KERVOL_CONTROL(cmd_PickPlotDone);
+}
+
+template <class Visitor>
+void Visit_Controls(SelectionForm& screen, Visitor&& visit) {
+    if (!screen.kind.vectors_only) {
+        KERVOL_CONTROL(opt_PrintSet);
+        KERVOL_CONTROL(fra_Preset);
+        KERVOL_CONTROL(cmb_Preset);
+        KERVOL_CONTROL(cmd_ClearPreset);
+    }
+    KERVOL_CONTROL(fra_Coord);
+    KERVOL_CONTROL(opt_Coord);
+    if (screen.kind.has_styles) KERVOL_CONTROL(opt_Plotstyle);
+    const std::size_t shown = screen.kind.functions;
+    Visit_Slots(visit, "fra_Function", screen.fra_Function, shown);
+    Visit_First(visit, "lbl_Var", screen.lbl_Var, shown);
+    Visit_Slots(visit, "cmb_Var", screen.cmb_Var, shown);
+    Visit_First(visit, "lbl_Comp", screen.lbl_Comp, shown);
+    Visit_Slots(visit, "cmb_Com", screen.cmb_Com, shown);
+    Visit_Slots(visit, "cmd_OK", screen.cmd_OK, shown);
+    Visit_Slots(visit, "cmd_Clear", screen.cmd_Clear, shown);
+    Visit_First(visit, "lbl_Function", screen.lbl_Function, shown);
+    Visit_First(visit, "lbl_Component", screen.lbl_Component, shown);
+    KERVOL_CONTROL(cmd_Cancel);
+    KERVOL_CONTROL(cmd_Done);
+}
+
+template <class Visitor>
+void Visit_Controls(PrintSelectScreen& screen, Visitor&& visit) {
+    Visit_Controls(static_cast<SelectionForm&>(screen), visit);
+    KERVOL_CONTROL(opt_Whereto);
+    KERVOL_CONTROL(cmb_Step);
+    KERVOL_CONTROL(cmb_Decimal);
+}
+
+template <class Visitor>
+void Visit_Controls(PrintDataScreen& screen, Visitor&& visit) {
+    KERVOL_CONTROL(lbl_Header);
+    KERVOL_CONTROL(lbl_Header2);
+    KERVOL_CONTROL(lbl_Header3);
+    KERVOL_CONTROL(lbl_Left);
+    KERVOL_CONTROL(lbl_Links);
+    KERVOL_CONTROL(frm_initial);
+    KERVOL_CONTROL(lbl_Initial);
+    KERVOL_CONTROL(lbl_Linkout2);
+    KERVOL_CONTROL(lbl_Unit);
+    KERVOL_CONTROL(lbl_Coord);
+    KERVOL_CONTROL(grd_Data);
+    KERVOL_CONTROL(cmd_Cancel);
+    KERVOL_CONTROL(cmd_PrintForm);
+    KERVOL_CONTROL(cmd_Copy);
 }
 
 template <class Visitor>

@@ -66,7 +66,7 @@ HomeScreen::HomeScreen() {
     mnu_Version.caption = "&Help";
     mnu_About.caption = "&About Kervol";
     mnu_Disclaimer.caption = "&Disclaimer";
-    for (Button* button : {&cmd_Plot, &cmd_Print, &cmd_Flywheel}) button->unavailable = kNotThere;
+    cmd_Flywheel.unavailable = kNotThere;
     for (MenuItem* entry : {&mnu_Export_Link_Data, &mnu_Export_Torque, &mnu_Import_SVA,
                             &mnu_Import_Link2_Drive_Data, &mnu_CalcFFT})
         entry->unavailable = kNotThere;

@@ -129,6 +129,12 @@ void cmd_Animate_Click(Screens& screens) {
     screens.program.port.Show_Screen(ScreenId::frm_Animate, Modality::Modal);
 }
 
+/// Whatever has changed since: the selections are to offer what there is now.
+void Open_Selection(Screens& screens, ScreenId screen) {
+    screens.program.model.NewData = true;
+    screens.program.port.Show_Screen(screen, Modality::Modal);
+}
+
 void mnu_Disclaimer_Click(Screens& screens) {
     screens.program.model.StartingUp = false;
     screens.program.port.Show_Screen(ScreenId::frm_Disclaimer, Modality::Modal);
@@ -189,6 +195,10 @@ void Wire_Home_Screen(Screens& screens) {
     on(home.cmd_Input.click, "frm_Homescreen.Input", opens(ScreenId::frm_Inputnew));
     on(home.cmd_Animate.click, "frm_Homescreen.Animate", cmd_Animate_Click);
     on(home.cmd_Dynamics.click, "frm_Homescreen.Dynamics", opens(ScreenId::frm_MassProp));
+    on(home.cmd_Plot.click, "frm_Homescreen.Plot",
+       [](Screens& all) { Open_Selection(all, ScreenId::frm_PlotType); });
+    on(home.cmd_Print.click, "frm_Homescreen.Print",
+       [](Screens& all) { Open_Selection(all, ScreenId::frm_PrintSelect); });
     on(home.cmd_Quit.click, "frm_Homescreen.Quit", Quit);
     on(home.mnu_Quit.click, "frm_Homescreen.Quit", Quit);
     on(home.mnu_New.click, "frm_Homescreen.New", mnu_New_Click);

@@ -15,6 +15,9 @@
 #include "screens/mass_prop_events.h"
 #include "screens/matrix_events.h"
 #include "screens/motion_fields.h"
+#include "screens/plot_select_events.h"
+#include "screens/print_select_events.h"
+#include "screens/selection_rules.h"
 #include "startup/launch.h"
 
 namespace kervol {
@@ -82,6 +85,7 @@ void Quit_Form_Activate(Screens& screens) {
 }
 
 #define CLOSES(button) [](const Screens& all) -> const Button& { return all.button; }
+#define ACTIVATES(form) [](Screens& all) { Selection_Form_Activate(all.program, all.form); }
 
 /// In the order of `ScreenId`.
 constexpr auto kScreens = std::to_array<ScreenRow>({
@@ -97,9 +101,23 @@ constexpr auto kScreens = std::to_array<ScreenRow>({
      CLOSES(frm_MassProp.cmd_Cancel)},
     {ScreenId::frm_Matrix, "frm_Matrix", "Matrix Screen", Matrix_Form_Activate, CLOSES(frm_Matrix.cmd_Back)},
     {ScreenId::frm_About, "frm_About", nullptr, nullptr, nullptr},
+    {ScreenId::frm_PlotType, "frm_PlotType", "Select Plot Type", Plot_Type_Form_Activate,
+     CLOSES(frm_PlotType.cmd_CancelPickPlot)},
+    {ScreenId::frm_PlotSelect1, "frm_PlotSelect1", "Select Plot Data", Plot_Select1_Form_Activate,
+     CLOSES(frm_PlotSelect1.cmd_Cancel)},
+    {ScreenId::frm_PlotSelect2, "frm_PlotSelect2", "Select Plot Data", ACTIVATES(frm_PlotSelect2),
+     CLOSES(frm_PlotSelect2.cmd_Cancel)},
+    {ScreenId::frm_PlotSelect3, "frm_PlotSelect3", "Select Plot Data", ACTIVATES(frm_PlotSelect3),
+     CLOSES(frm_PlotSelect3.cmd_Cancel)},
+    {ScreenId::frm_PlotSelect4, "frm_PlotSelect4", "Select Plot Data", ACTIVATES(frm_PlotSelect4),
+     CLOSES(frm_PlotSelect4.cmd_Cancel)},
+    {ScreenId::frm_PrintSelect, "frm_PrintSelect", "Print Select", Print_Select_Form_Activate,
+     CLOSES(frm_PrintSelect.cmd_Cancel)},
+    {ScreenId::frm_PrintData, "frm_PrintData", "Output Screen", nullptr, CLOSES(frm_PrintData.cmd_Cancel)},
     {ScreenId::frm_Quit, "frm_Quit", nullptr, Quit_Form_Activate, CLOSES(frm_Quit.cmd_NoQuit)},
 });
 
+#undef ACTIVATES
 #undef CLOSES
 
 constexpr bool Are_In_Order() {
@@ -146,6 +164,8 @@ void Wire_Screens(Screens& screens) {
     Wire_Animate_Screen(screens);
     Wire_Mass_Prop_Screen(screens);
     Wire_Matrix_Screen(screens);
+    Wire_Plot_Select_Screens(screens);
+    Wire_Print_Select_Screens(screens);
     on(screens.frm_Title.cmd_Start.click, "frm_Title.Start", cmd_Start_Click);
     on(screens.frm_Title.cmd_Abort.click, "frm_Title.Abort",
        [](Screens& all) { all.program.port.Show_Screen(ScreenId::frm_Quit, Modality::Modal); });

@@ -17,10 +17,9 @@ void Print_Form(Port& port, ScreenId screen) {
     if (Confirm_Printing(port, screen)) port.Print_Screen(screen);
 }
 
-void Copy_Form(Port& port, ScreenId screen) {
+void Copy_Form(Port& port, ScreenId screen, Icon icon) {
     port.Copy_Screen(screen);
-    port.Show_Message(
-        {"Use the Alt-PrintScrn key combo to copy the screen to the clipboard", Icon::Information});
+    port.Show_Message({"Use the Alt-PrintScrn key combo to copy the screen to the clipboard", icon});
 }
 
 }  // namespace kervol

@@ -13,6 +13,6 @@ bool Confirm_Printing(Port& port, ScreenId screen);
 void Print_Form(Port& port, ScreenId screen);
 
 /// Puts an image of the screen on the clipboard, and says by which keys many desktops do so.
-void Copy_Form(Port& port, ScreenId screen);
+void Copy_Form(Port& port, ScreenId screen, Icon icon = Icon::Information);
 
 }  // namespace kervol

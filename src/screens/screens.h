@@ -8,6 +8,7 @@
 #include "core/program.h"
 #include "screens/dynamics_screens.h"
 #include "screens/linkage_screen.h"
+#include "screens/selection_screens.h"
 
 namespace kervol {
 
@@ -73,6 +74,13 @@ struct Screens {
     MassPropScreen frm_MassProp;
     MatrixScreen frm_Matrix;
     AboutScreen frm_About;
+    PlotTypeScreen frm_PlotType;
+    PlotSelectScreen frm_PlotSelect1{kPlotSelect1};
+    PlotSelectScreen frm_PlotSelect2{kPlotSelect2};
+    PlotSelectScreen frm_PlotSelect3{kPlotSelect3};
+    PlotSelectScreen frm_PlotSelect4{kPlotSelect4};
+    PrintSelectScreen frm_PrintSelect;
+    PrintDataScreen frm_PrintData;
     QuitScreen frm_Quit;
 };
 

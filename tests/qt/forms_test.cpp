@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What holds for the windows of all screens.
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAction>
+#include <QComboBox>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QLineEdit>
@@ -67,6 +69,27 @@ std::set<std::string> Names(Screens& screens, ScreenId screen) {
         case ScreenId::frm_Matrix:
             Visit_Controls(screens.frm_Matrix, list);
             break;
+        case ScreenId::frm_PlotType:
+            Visit_Controls(screens.frm_PlotType, list);
+            break;
+        case ScreenId::frm_PlotSelect1:
+            Visit_Controls(screens.frm_PlotSelect1, list);
+            break;
+        case ScreenId::frm_PlotSelect2:
+            Visit_Controls(screens.frm_PlotSelect2, list);
+            break;
+        case ScreenId::frm_PlotSelect3:
+            Visit_Controls(screens.frm_PlotSelect3, list);
+            break;
+        case ScreenId::frm_PlotSelect4:
+            Visit_Controls(screens.frm_PlotSelect4, list);
+            break;
+        case ScreenId::frm_PrintSelect:
+            Visit_Controls(screens.frm_PrintSelect, list);
+            break;
+        case ScreenId::frm_PrintData:
+            Visit_Controls(screens.frm_PrintData, list);
+            break;
     }
     return list.names;
 }
@@ -107,7 +130,8 @@ TEST_F(FormsTest, AccessibleNamesAreThereAndUnique) {
             for (QWidget* widget : form.findChildren<QWidget*>()) {
                 const bool used =
                     qobject_cast<QLineEdit*>(widget) || qobject_cast<QAbstractButton*>(widget) ||
-                    qobject_cast<QAbstractSlider*>(widget) || widget->objectName() == "Picture1";
+                    qobject_cast<QAbstractSlider*>(widget) || qobject_cast<QAbstractItemView*>(widget) ||
+                    qobject_cast<QComboBox*>(widget) || widget->objectName() == "Picture1";
                 if (!used || !widget->isVisible() || widget->objectName().startsWith("qt_")) continue;
                 if (widget->objectName().isEmpty()) continue;
                 const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
@@ -122,7 +146,8 @@ TEST_F(FormsTest, AccessibleNamesAreThereAndUnique) {
 
 TEST_F(FormsTest, EscapeAndTheCloseBoxLeaveAModalScreen) {
     for (const ScreenId screen : {ScreenId::frm_Disclaimer, ScreenId::frm_Inputnew, ScreenId::frm_MassProp,
-                                  ScreenId::frm_Matrix, ScreenId::frm_About, ScreenId::frm_Quit}) {
+                                  ScreenId::frm_Matrix, ScreenId::frm_About, ScreenId::frm_PlotType,
+                                  ScreenId::frm_PrintSelect, ScreenId::frm_PrintData, ScreenId::frm_Quit}) {
         for (const bool escape : {true, false}) {
             In(screen, [&](FormWindow& form) {
                 if (escape)

@@ -68,9 +68,12 @@ class WindowTest : public ::testing::Test {
 void Turn_Wheel(QWidget& widget);
 
 inline constexpr ScreenId kScreensWithWindow[] = {
-    ScreenId::frm_Title,    ScreenId::frm_Disclaimer, ScreenId::frm_User,     ScreenId::frm_HomeScreen,
-    ScreenId::frm_Inputnew, ScreenId::frm_Animate,    ScreenId::frm_MassProp, ScreenId::frm_Matrix,
-    ScreenId::frm_About,    ScreenId::frm_Quit,
+    ScreenId::frm_Title,       ScreenId::frm_Disclaimer,  ScreenId::frm_User,
+    ScreenId::frm_HomeScreen,  ScreenId::frm_Inputnew,    ScreenId::frm_Animate,
+    ScreenId::frm_MassProp,    ScreenId::frm_Matrix,      ScreenId::frm_About,
+    ScreenId::frm_Quit,        ScreenId::frm_PlotType,    ScreenId::frm_PlotSelect1,
+    ScreenId::frm_PlotSelect2, ScreenId::frm_PlotSelect3, ScreenId::frm_PlotSelect4,
+    ScreenId::frm_PrintSelect, ScreenId::frm_PrintData,
 };
 
 }  // namespace kervol

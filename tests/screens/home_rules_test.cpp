@@ -195,6 +195,7 @@ struct DeadControls {
     void operator()(const std::string& name, const OptionButton& option) {
         Check(name, option, option.click);
     }
+    void operator()(const std::string& name, const Grid&) { names.insert(name); }
     template <class T>
     requires std::derived_from<T, Control>
     void operator()(const std::string& name, const T&) { names.insert(name); }
@@ -219,22 +220,31 @@ TEST_F(HomeRules, EveryButtonAndEntryDoesSomethingOrSaysWhyNot) {
     Visit_Controls(screens->frm_User, controls);
     Visit_Controls(screens->frm_MassProp, controls);
     Visit_Controls(screens->frm_Matrix, controls);
+    Visit_Controls(screens->frm_PlotType, controls);
+    for (PlotSelectScreen* form : {&screens->frm_PlotSelect1, &screens->frm_PlotSelect2,
+                                   &screens->frm_PlotSelect3, &screens->frm_PlotSelect4})
+        Visit_Controls(*form, controls);
+    Visit_Controls(screens->frm_PrintSelect, controls);
+    Visit_Controls(screens->frm_PrintData, controls);
     Visit_Controls(screens->frm_Quit, controls);
-    // Headings of menus, and the place that no unit system has.
-    EXPECT_THAT(controls.dead, ElementsAre("mnu_Examples", "mnu_Export", "mnu_FFT", "mnu_Import", "mnu_Units",
-                                           "mnu_Version", "mnu_file", "mnu_pick_0"));
+    // Headings of menus, the place that no unit system has, and options that are read when a screen goes on.
+    EXPECT_THAT(controls.dead,
+                ElementsAre("mnu_Examples", "mnu_Export", "mnu_FFT", "mnu_Import", "mnu_Units", "mnu_Version",
+                            "mnu_file", "mnu_pick_0", "opt_Coord_0", "opt_Coord_1", "opt_PickPlot_0",
+                            "opt_PickPlot_1", "opt_PickPlot_2", "opt_PickPlot_3", "opt_Whereto_0",
+                            "opt_Whereto_1", "opt_Whereto_2"));
     EXPECT_TRUE(controls.names.contains("txt_Linkout_16"));
 }
 
 TEST_F(HomeRules, WhatIsNotThereYetSaysSo) {
     for (const Control* control : std::initializer_list<const Control*>{
-             &home.cmd_Plot, &home.cmd_Print, &home.cmd_Flywheel, &home.mnu_Export_Link_Data,
-             &home.mnu_Export_Torque, &home.mnu_Import_SVA, &home.mnu_Import_Link2_Drive_Data,
-             &home.mnu_CalcFFT})
+             &home.cmd_Flywheel, &home.mnu_Export_Link_Data, &home.mnu_Export_Torque, &home.mnu_Import_SVA,
+             &home.mnu_Import_Link2_Drive_Data, &home.mnu_CalcFFT})
         EXPECT_NE(control->unavailable, "");
     for (const Control* control : std::initializer_list<const Control*>{
              &home.cmd_Input, &home.cmd_Quit, &home.mnu_Open, &home.mnu_Save, &home.cmd_Animate,
-             &home.cmd_Dynamics, &input.cmd_Calc, &input.cmd_Animate, &input.cmd_Print})
+             &home.cmd_Plot, &home.cmd_Print, &home.cmd_Dynamics, &input.cmd_Calc, &input.cmd_Animate,
+             &input.cmd_Print})
         EXPECT_EQ(control->unavailable, "");
 }
 

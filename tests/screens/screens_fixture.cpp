@@ -69,6 +69,11 @@ std::optional<std::string> ScreenPort::Ask_File_To_Save(const FileDialog& dialog
     return name;
 }
 
+std::unique_ptr<Printer> ScreenPort::Ask_Printer() {
+    if (printer_breaks) Raise(fault::DeviceIO);
+    return RecordingPort::Ask_Printer();
+}
+
 ScreensTest::ScreensTest()
     : program(std::make_unique<Program>(port)),
       screens(std::make_unique<Screens>(*program)),
