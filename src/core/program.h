@@ -14,6 +14,7 @@
 #include "core/fourier_state.h"
 #include "core/matrix_display.h"
 #include "core/model.h"
+#include "core/plot_state.h"
 #include "core/port.h"
 #include "core/result_tables.h"
 #include "core/selections.h"
@@ -46,6 +47,7 @@ struct Program {
     Selections selections;
     TableOutput output;
     FourierState fourier;
+    PlotState plots;
     FaultLog faults;
     Port& port;
 };
