@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Imports and exports of the Home screen, and the screens that an imported drive goes through.
-#include <cmath>
+// Imports of the Home screen, and the screens that an imported drive goes through.
 #include <memory>
 
-#include "files/model_file.h"
 #include "screens/home_screen.h"
-#include "screens/launch_screens.h"
 #include "screens/screens_fixture.h"
 #include "support/compare.h"
 #include "support/temporary_folder.h"
@@ -68,7 +65,7 @@ const ImportCase kImports[] = {
      " of Linkage output data successfully read.", Icon::None, "Import_Linkage_Data", 5, 1},
 };
 
-class HomeExchange : public ScreensTest {
+class HomeImport : public ScreensTest {
   protected:
     std::string Put(const ImportCase& kind, int count = 6) {
         return folder.Put(kind.file, kind.content(count));
@@ -87,17 +84,11 @@ class HomeExchange : public ScreensTest {
         model.DataSaved = false;
         tables.Theta(3, 1) = 45;
     }
-    void Expect_Link6_Box(const std::string& path) {
-        Expect_Box("The angular data for link 6 of this linkage has been written to " + path +
-                       "\nThis file can be imported to program Vostrel or Kervol" + path +
-                       "\nand used as input data to drive the next stage of a multibar linkage.",
-                   Icon::Information);
-    }
 
     TemporaryFolder folder;
 };
 
-TEST_F(HomeExchange, EachImportAsksForItsOwnKindOfFile) {
+TEST_F(HomeImport, EachImportAsksForItsOwnKindOfFile) {
     for (const ImportCase& kind : kImports) {
         Choose(kind);
         ASSERT_EQ(port.dialogs.size(), 1U);
@@ -108,7 +99,7 @@ TEST_F(HomeExchange, EachImportAsksForItsOwnKindOfFile) {
     }
 }
 
-TEST_F(HomeExchange, AnImportTellsAndOpensTheInputScreenWithTheDrive) {
+TEST_F(HomeImport, AnImportTellsAndOpensTheInputScreenWithTheDrive) {
     for (const ImportCase& kind : kImports) {
         SCOPED_TRACE(kind.file);
         model.DataSaved = true;
@@ -136,7 +127,7 @@ TEST_F(HomeExchange, AnImportTellsAndOpensTheInputScreenWithTheDrive) {
     }
 }
 
-TEST_F(HomeExchange, AnImportOverUnsavedResultsBringsTheSaveDialogTwice) {
+TEST_F(HomeImport, AnImportOverUnsavedResultsBringsTheSaveDialogTwice) {
     for (const ImportCase& kind : kImports) {
         Put_Unsaved_Results();
         port.answers = {Answer::Yes};
@@ -152,7 +143,7 @@ TEST_F(HomeExchange, AnImportOverUnsavedResultsBringsTheSaveDialogTwice) {
     }
 }
 
-TEST_F(HomeExchange, AnImportYesCancelCancelStillComesToTheOpenDialog) {
+TEST_F(HomeImport, AnImportYesCancelCancelStillComesToTheOpenDialog) {
     for (const ImportCase& kind : kImports) {
         Put_Unsaved_Results();
         port.answers = {Answer::Yes};
@@ -163,7 +154,7 @@ TEST_F(HomeExchange, AnImportYesCancelCancelStillComesToTheOpenDialog) {
     }
 }
 
-TEST_F(HomeExchange, AnImportWithoutSavingOrWithSavedResultsSkipsTheSaveDialogs) {
+TEST_F(HomeImport, AnImportWithoutSavingOrWithSavedResultsSkipsTheSaveDialogs) {
     for (const ImportCase& kind : kImports) {
         Put_Unsaved_Results();
         port.answers = {Answer::No};
@@ -176,7 +167,7 @@ TEST_F(HomeExchange, AnImportWithoutSavingOrWithSavedResultsSkipsTheSaveDialogs)
     }
 }
 
-TEST_F(HomeExchange, CancelOfAnImportChangesNothing) {
+TEST_F(HomeImport, CancelOfAnImportChangesNothing) {
     for (const ImportCase& kind : kImports) {
         Put_Unsaved_Results();
         model.DataSaved = model.DynamicsCalculated = true;
@@ -189,7 +180,7 @@ TEST_F(HomeExchange, CancelOfAnImportChangesNothing) {
     }
 }
 
-TEST_F(HomeExchange, AnImportThatCannotBeOpenedIsReportedAndOpensNoScreen) {
+TEST_F(HomeImport, AnImportThatCannotBeOpenedIsReportedAndOpensNoScreen) {
     for (const ImportCase& kind : kImports) {
         model.DataSaved = true;
         home.mnu_New.enabled = false;
@@ -203,7 +194,7 @@ TEST_F(HomeExchange, AnImportThatCannotBeOpenedIsReportedAndOpensNoScreen) {
     }
 }
 
-TEST_F(HomeExchange, ACamFileForTheSiblingProgramLeavesTheResults) {
+TEST_F(HomeImport, ACamFileForTheSiblingProgramLeavesTheResults) {
     Put_Unsaved_Results();
     model.DataSaved = model.DynamicsCalculated = true;
     const LinkageModel before = model;
@@ -218,7 +209,7 @@ TEST_F(HomeExchange, ACamFileForTheSiblingProgramLeavesTheResults) {
     EXPECT_TRUE(home.cmd_Animate.enabled);
 }
 
-TEST_F(HomeExchange, ACutDriveIsReportedAndTheOldResultsAreOutOfDate) {
+TEST_F(HomeImport, ACutDriveIsReportedAndTheOldResultsAreOutOfDate) {
     for (const ImportCase& kind : kImports) {
         SCOPED_TRACE(kind.file);
         Put_Unsaved_Results();
@@ -240,7 +231,7 @@ TEST_F(HomeExchange, ACutDriveIsReportedAndTheOldResultsAreOutOfDate) {
     }
 }
 
-TEST_F(HomeExchange, ADriveOf362RowsIsARangeFailureAndOneOf361IsNot) {
+TEST_F(HomeImport, ADriveOf362RowsIsARangeFailureAndOneOf361IsNot) {
     for (const ImportCase& kind : kImports) {
         SCOPED_TRACE(kind.file);
         port.files = {Put(kind, 361)};
@@ -256,7 +247,7 @@ TEST_F(HomeExchange, ADriveOf362RowsIsARangeFailureAndOneOf361IsNot) {
     }
 }
 
-TEST_F(HomeExchange, ADriveIsCalculatedAndAnimatedThroughTheScreens) {
+TEST_F(HomeImport, ADriveIsCalculatedAndAnimatedThroughTheScreens) {
     for (const ImportCase& kind : kImports) {
         SCOPED_TRACE(kind.file);
         port.script[ScreenId::frm_Inputnew] = [&] {
@@ -291,7 +282,7 @@ TEST_F(HomeExchange, ADriveIsCalculatedAndAnimatedThroughTheScreens) {
     }
 }
 
-TEST_F(HomeExchange, WithAutocalcOnADriveIsCalculatedAtOnce) {
+TEST_F(HomeImport, WithAutocalcOnADriveIsCalculatedAtOnce) {
     input.chk_autocalc.on = true;
     port.files = {Put(kImports[1])};
     Choose(kImports[1]);
@@ -301,7 +292,7 @@ TEST_F(HomeExchange, WithAutocalcOnADriveIsCalculatedAtOnce) {
     EXPECT_TRUE(home.cmd_Animate.enabled);
 }
 
-TEST_F(HomeExchange, ADrivenModelIsDrivenTheSameWhenItIsOpenedAgain) {
+TEST_F(HomeImport, ADrivenModelIsDrivenTheSameWhenItIsOpenedAgain) {
     for (const ImportCase& kind : kImports) {
         SCOPED_TRACE(kind.file);
         port.files = {Put(kind), folder / "driven.kvl", folder / "driven.kvl"};
@@ -323,141 +314,6 @@ TEST_F(HomeExchange, ADrivenModelIsDrivenTheSameWhenItIsOpenedAgain) {
         home.mnu_Test.click();
         EXPECT_TRUE(input.frm_calcmode.visible) << "an example brings its own drive";
     }
-}
-
-TEST_F(HomeExchange, Link6OfOneLinkageTurnsTheCrankOfTheNext) {
-    Calculate_In_Mode(3);
-    ASSERT_EQ(model.NumSteps, 36);
-    const auto first = std::make_unique<ResultTables>(tables);
-    port.files = {folder / "stage.out", folder / "stage.out"};
-    home.mnu_Export_Link_Data.click();
-    Expect_Link6_Box(folder / "stage.out");
-    port.script[ScreenId::frm_Inputnew] = [&] { input.cmd_Calc.click(); };
-    Choose(kImports[1]);
-    Expect_Box("File " + (folder / "stage.out") + " of Linkage output data successfully read.", Icon::None);
-    ASSERT_EQ(model.NumSteps, 36);
-    for (int i = 0; i <= 36; ++i) {
-        EXPECT_NEAR(tables.Theta(i, 0), first->Theta(i, 5), 2e-5) << i;
-        EXPECT_EQ(tables.Omega(i, 0), first->Omega(i, 4)) << i;
-        EXPECT_EQ(tables.Alpha(i, 0), first->Alpha(i, 4)) << i;
-    }
-}
-
-TEST_F(HomeExchange, TheExportsProposeTheModelsName) {
-    model.ModelName = "crank";
-    home.mnu_Export_Link_Data.click();
-    home.mnu_Export_Torque.click();
-    ASSERT_EQ(port.dialogs.size(), 2U);
-    EXPECT_EQ(port.dialogs[0].title, "Export Link 6 Data");
-    EXPECT_EQ(port.dialogs[0].filter, "Kervol Export (*.out)|*.out|(*.*)|*.*|");
-    EXPECT_EQ(port.dialogs[0].name, "crank_kvl.out");
-    EXPECT_EQ(port.dialogs[1].title, "Export Link 2 Driving Torque Data");
-    EXPECT_EQ(port.dialogs[1].filter, "Link 2 Torque Export (*.trq)|*.trq|(*.*)|*.*|");
-    EXPECT_EQ(port.dialogs[1].name, "crank_kvl.trq");
-    EXPECT_THAT(port.trace, ElementsAre("save dialog", "save dialog"));
-}
-
-TEST_F(HomeExchange, CancelOfAnExportChangesNothing) {
-    Put_Unsaved_Results();
-    const LinkageModel before = model;
-    home.mnu_Export_Link_Data.click();
-    home.mnu_Export_Torque.click();
-    EXPECT_THAT(Differing_Fields(model, before), IsEmpty());
-}
-
-TEST_F(HomeExchange, AnExportBecomesTheFileInUseSoThatSaveWritesTheModelOverIt) {
-    Calculate_In_Mode(3);
-    struct Case {
-        MenuItem& entry;
-        const char* file;
-        std::size_t boxes;
-    };
-    for (const Case& one :
-         {Case{home.mnu_Export_Link_Data, "a.out", 1}, Case{home.mnu_Export_Torque, "a.trq", 0}}) {
-        SCOPED_TRACE(one.file);
-        model.DataSaved = false;
-        port.files = {folder / one.file};
-        one.entry.click();
-        EXPECT_EQ(Boxes_Left(), one.boxes);
-        while (Boxes_Left() > 0) Take_Box();
-        EXPECT_TRUE(model.DataSaved);
-        EXPECT_EQ(model.ModelPath, folder / one.file);
-        EXPECT_EQ(model.ModelName, "Model_1");
-        const std::string exported = Content_Of(folder / one.file);
-        home.mnu_Save.click();
-        Expect_Box("File was successfully written to \n" + (folder / one.file), Icon::Information);
-        EXPECT_THAT(Content_Of(folder / one.file), ::testing::StartsWith("\"KERVOL for Windows\""));
-        EXPECT_EQ(Content_Of((folder / one.file) + "~"), exported);
-    }
-}
-
-TEST_F(HomeExchange, AnExportThatCannotBeWrittenIsReportedUnderItsEntry) {
-    Calculate_In_Mode(3);
-    port.files = {folder / "none/a.out", folder.path().string()};
-    home.mnu_Export_Link_Data.click();
-    Expect_Fault(76, "mnu_link4_Click");
-    home.mnu_Export_Torque.click();
-    Expect_Fault(75, "mnu_Torque_export_Click");
-    EXPECT_FALSE(model.DataSaved);
-}
-
-TEST_F(HomeExchange, TheTorqueIsExportedOnceTheDynamicsAreThere) {
-    Calculate_In_Mode(3);
-    Home_Form_Activate(*screens);
-    EXPECT_TRUE(home.mnu_Export.enabled);
-    EXPECT_FALSE(home.mnu_Export_Torque.enabled);
-    port.script[ScreenId::frm_MassProp] = [&] {
-        screens->frm_MassProp.cmd_Solve.click();
-        screens->frm_MassProp.cmd_Done.click();
-    };
-    home.cmd_Dynamics.click();
-    Home_Form_Activate(*screens);
-    EXPECT_TRUE(home.mnu_Export_Torque.enabled);
-    port.files = {folder / "a.trq"};
-    home.mnu_Export_Torque.click();
-    std::ifstream file(folder / "a.trq");
-    int count = 0;
-    file >> count;
-    EXPECT_EQ(count, 36);
-    for (int i = 0; i <= 36; ++i) {
-        float torque = 0;
-        ASSERT_TRUE(file >> torque) << i;
-        EXPECT_EQ(torque, tables.TorqueTable(i, 0)) << i;
-    }
-}
-
-TEST_F(HomeExchange, ATorqueOutAndInLoadsLink6AndComesBackWithTheModelWithoutAnImport) {
-    MassPropScreen& dynamics = screens->frm_MassProp;
-    Calculate_In_Mode(3);
-    port.script[ScreenId::frm_MassProp] = [&] {
-        dynamics.cmd_Solve.click();
-        dynamics.cmd_Done.click();
-    };
-    home.cmd_Dynamics.click();
-    port.files = {folder / "a.trq", folder / "a.trq", folder / "loaded.kvl", folder / "loaded.kvl"};
-    home.mnu_Export_Torque.click();
-    std::vector<float> torques;
-    for (int i = 0; i <= 36; ++i) torques.push_back(tables.TorqueTable(i, 0));
-    port.script[ScreenId::frm_MassProp] = [&] {
-        dynamics.chk_Torque.on = true;
-        dynamics.chk_Torque.click();
-    };
-    home.cmd_Dynamics.click();
-    Expect_Box("File " + (folder / "a.trq") + " of Torque data successfully read.", Icon::None);
-    home.mnu_Saveas.click();
-    Take_Box();
-
-    tables.Torque21Imported.Fill(0);
-    Put_Check(dynamics.chk_Torque, false);
-    port.trace.clear();
-    home.mnu_Open.click();
-    Take_Box();
-    EXPECT_TRUE(dynamics.chk_Torque.on);
-    EXPECT_TRUE(model.TorqueImported);
-    for (int i = 0; i <= 36; ++i)
-        EXPECT_EQ(tables.Torque21Imported(i), torques[static_cast<std::size_t>(i)]) << i;
-    EXPECT_THAT(port.trace,
-                ElementsAre("open dialog", "fill while loading", "box", "show frm_Inputnew modal"));
 }
 
 }  // namespace
