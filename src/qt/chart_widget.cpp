@@ -4,8 +4,10 @@
 #include <QApplication>
 #include <cmath>
 
+#include "core/chart_values.h"
 #include "core/number_text.h"
 #include "qt/binder.h"
+#include "qt/picture_menu.h"
 
 namespace kervol {
 namespace {
@@ -25,6 +27,7 @@ ChartWidget::ChartWidget(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     for (QCPItemPosition* corner : {mark_->topLeft, mark_->bottomRight})
         corner->setType(QCPItemPosition::ptAbsolute);
+    for (QCPLayerable* part : std::initializer_list<QCPLayerable*>{mark_, words_}) part->setLayer("overlay");
     words_->position->setType(QCPItemPosition::ptAbsolute);
     words_->setPadding({5, 3, 5, 3});
     words_->setBrush(kPaper);
@@ -33,6 +36,16 @@ ChartWidget::ChartWidget(QWidget* parent)
     words_->setClipToAxisRect(false);
     mark_->setBrush(Qt::white);
     Show_Reading({});
+    Offer_Picture_Menu(*this, {.sheet = [this] { return Shown_Sheet(); },
+                               .values = [this] { return Chart_Values(Look()); }});
+}
+
+Sheet ChartWidget::Shown_Sheet() const {
+    const double width = this->width(), height = this->height();
+    Sheet sheet{.width = width, .height = height};
+    const std::optional<PlaneView> part = Shows_Whole() ? std::nullopt : std::optional(View());
+    sheet.charts.push_back({.box = {0, 0, width, height}, .look = Look(), .view = part});
+    return sheet;
 }
 
 void ChartWidget::Show(const ChartLook& look) {

@@ -28,6 +28,8 @@ class ChartWidget : public ChartPlot {
     std::optional<Reading> Nearest(QPointF place) const;
     /// "Theta 3: 41.5 deg at 30" in the chart's own words.
     QString Words(const Reading& reading) const;
+    /// The chart as it stands here, with the part of it that is in view.
+    Sheet Shown_Sheet() const;
     const std::optional<Reading>& Shown_Reading() const { return reading_; }
 
     QSize sizeHint() const override { return {420, 260}; }

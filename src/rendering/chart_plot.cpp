@@ -22,6 +22,7 @@ constexpr int kFillAlpha = 70;
 constexpr QSize kLegendIcon(38, 12);
 constexpr int kGap = 6;
 constexpr int kBold = 2, kItalic = 1;  // bits of a font's style
+constexpr auto kMaskLayer = "mask";
 
 const QColor kInk(0, 0, 0);
 const QColor kGrid(200, 204, 210);
@@ -37,6 +38,28 @@ const std::array<QVector<qreal>, 6> kPatterns = {
     QVector<qreal>{},         QVector<qreal>{6, 3},
     QVector<qreal>{1.5, 2.5}, QVector<qreal>{7, 2.5, 1.5, 2.5},
     QVector<qreal>{12, 4},    QVector<qreal>{7, 2.5, 1.5, 2.5, 1.5, 2.5}};
+
+QColor Ground(const ChartLook& look) {
+    return look.background == chart_background::Tinted ? kTint : QColor(Qt::white);
+}
+
+/// Covers what of an enlarged curve stands beside the axes, for files that cannot cut it off.
+class Mask : public QCPLayerable {
+  public:
+    explicit Mask(QCustomPlot& plot) : QCPLayerable(&plot, kMaskLayer) {}
+
+  protected:
+    void applyDefaultAntialiasingHint(QCPPainter* painter) const override { painter->setAntialiasing(false); }
+    QRect clipRect() const override { return parentPlot()->viewport(); }
+    void draw(QCPPainter* painter) override {
+        const QRect all = parentPlot()->viewport(), plane = parentPlot()->axisRect()->rect();
+        for (const QRect& side : {QRect(all.topLeft(), QPoint(all.right(), plane.top() - 1)),
+                                  QRect(QPoint(all.left(), plane.bottom() + 1), all.bottomRight()),
+                                  QRect(all.topLeft(), QPoint(plane.left() - 1, all.bottom())),
+                                  QRect(QPoint(plane.right() + 1, all.top()), all.bottomRight())})
+            painter->fillRect(side, Ground(static_cast<const ChartPlot*>(parentPlot())->Look()));
+    }
+};
 
 QString Text(const std::string& text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -58,6 +81,11 @@ QPen Thin(QPen pen) {
 
 QCPScatterStyle Dot(const QPen& pen) {
     return {QCPScatterStyle::ssDisc, pen.color(), pen.color(), 2 * pen.widthF() + 2};
+}
+
+/// In the legend.
+bool Has_Entry(const ChartSet& set) {
+    return set.filled && !set.LegendText.empty();
 }
 
 bool Has_Lines(const ChartLook& look) {
@@ -123,6 +151,8 @@ ChartPlot::ChartPlot(QWidget* parent)
     plain.setNumberOptions(QLocale::OmitGroupSeparator);
     setLocale(plain);
     setNoAntialiasingOnDrag(false);
+    addLayer(kMaskLayer, layer("main"));
+    new Mask(*this);
     legend->setBorderPen(Qt::NoPen);
     legend->setBrush(Qt::NoBrush);
     legend->setIconSize(kLegendIcon);
@@ -183,7 +213,7 @@ void ChartPlot::Set_Text_Font(const QFont& font) {
 
 void ChartPlot::Rebuild() {
     whole_ = Whole_View(look_);
-    setBackground(look_.background == chart_background::Tinted ? QBrush(kTint) : QBrush(Qt::white));
+    setBackground(Ground(look_));
     clearPlottables();
     Put_Curves();
     Put_Titles();
@@ -209,9 +239,8 @@ void ChartPlot::Put_Titles() {
     all->clear();
     all->simplify();
 
-    const bool named = std::any_of(look_.sets.begin(), look_.sets.end(),
-                                   [](const ChartSet& set) { return !set.LegendText.empty(); });
-    const bool beside = named && look_.sets.size() == 1;
+    const auto entries = std::count_if(look_.sets.begin(), look_.sets.end(), Has_Entry);
+    const bool named = entries > 0, beside = entries == 1;
     legend->setVisible(named);
     legend->setFont(Sized_Font(look_.fonts[font_use::OtherTexts], 1));
     legend->setTextColor(kInk);
@@ -221,6 +250,7 @@ void ChartPlot::Put_Titles() {
         font.setBold(true);
         auto* title = new QCPTextElement(this, Text(look_.GraphTitle), font);
         title->setTextColor(kInk);
+        title->setLayer("legend");
         heading->addElement(0, 0, title);
         if (beside) heading->addElement(0, 1, legend);
         heading->setColumnStretchFactor(0, 1);
@@ -370,7 +400,7 @@ void ChartPlot::Fit(QSize size) {
     const QFontMetrics texts(legend->font());
     int widest = 1;
     for (const ChartSet& set : look_.sets)
-        widest = std::max(widest, texts.horizontalAdvance(Text(set.LegendText)));
+        if (Has_Entry(set)) widest = std::max(widest, texts.horizontalAdvance(Text(set.LegendText)));
     const int item =
         widest + kLegendIcon.width() + legend->iconTextPadding() + legend->columnSpacing() + kGap;
     legend->setWrap(std::max(1, (size.width() - 2 * kGap) / item));

@@ -7,15 +7,11 @@
 #include <qcustomplot.h>
 
 #include "core/chart.h"
+#include "core/sheet.h"
 
 namespace kervol {
 
 class PointTicker;
-
-/// The part of the plane that a chart shows.
-struct PlaneView {
-    double x_low, x_high, y_low, y_high;
-};
 
 class ChartPlot : public QCustomPlot {
   public:
