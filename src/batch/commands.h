@@ -4,10 +4,27 @@
 
 #include <ostream>
 
+namespace CLI {
+class App;
+}
+
 namespace kervol {
+
+struct Command;
 
 /// Runs the command that the arguments name and returns its exit code. Results go to `out`, complaints to
 /// `err`, one line each.
 int Run_Commands(int argc, const char* const* argv, std::ostream& out, std::ostream& err);
+
+/// The commands, each declared in the file of its topic; see the list in commands.cpp.
+Command Tables_Command(CLI::App& app);
+Command Table_Command(CLI::App& app);
+Command Functions_Command(CLI::App& app);
+Command Info_Command(CLI::App& app);
+Command Convert_Command(CLI::App& app);
+Command Example_Command(CLI::App& app);
+Command Drive_Command(CLI::App& app);
+Command Export_Command(CLI::App& app);
+Command Draw_Command(CLI::App& app);
 
 }  // namespace kervol
