@@ -11,8 +11,7 @@
 namespace kervol {
 
 std::int16_t Last_Row(const Program& program) {
-    if (!program.selections.SelFFT) return program.model.NumSteps;
-    return std::min(program.fourier.NumHarmonics, MaxHarmonics);
+    return program.selections.SelFFT ? Last_Harmonic(program.fourier) : program.model.NumSteps;
 }
 
 std::int16_t Rows_Apart(const LinkageModel& model) {
