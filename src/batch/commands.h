@@ -26,5 +26,7 @@ Command Example_Command(CLI::App& app);
 Command Drive_Command(CLI::App& app);
 Command Export_Command(CLI::App& app);
 Command Draw_Command(CLI::App& app);
+Command Animate_Command(CLI::App& app);
+Command Dxf_Command(CLI::App& app);
 
 }  // namespace kervol
