@@ -47,7 +47,7 @@ class PlotScreensTest : public SelectionTest {
     void Open_Plot(SelectionForm& form, std::size_t style, const char* name, const char* component = "") {
         Choose_Functions(form, name, component);
         Choose_Style(form, style);
-        for (RecordingPicture& picture : pictures) picture.drawn.clear();
+        for (RecordingPicture& shown : pictures) shown.drawn.clear();
         port.trace.clear();
         form.cmd_Done.click();
     }

@@ -19,7 +19,7 @@ class PolarScreen : public PlotScreensTest {
     /// the envelope; axes and ticks are left out.
     std::string Strokes() {
         std::string strokes;
-        for (const Drawn& drawn : std::exchange(picture.drawn, {})) {
+        for (const Drawn& drawn : std::exchange(plot.drawn, {})) {
             if (drawn.kind == Drawn::Kind::Clear) strokes += 'C';
             if (drawn.kind == Drawn::Kind::Scale) strokes += 'W';
             if (drawn.kind != Drawn::Kind::Line) continue;
@@ -42,11 +42,11 @@ class PolarScreen : public PlotScreensTest {
     }
 
     PolarPlotScreen& form = polar_plot;
-    RecordingPicture& picture = pictures[0];
+    RecordingPicture& plot = pictures[0];
 };
 
 TEST_F(PolarScreen, OpensWithTheWholePlotAndItsOutputsEnabled) {
-    EXPECT_EQ(Strokes(), "CWrererr");
+    EXPECT_EQ(Strokes(), "CWrerer");
     Expect_Step_Display(false);
     EXPECT_TRUE(form.cmd_PlotPrint.enabled);
     EXPECT_TRUE(form.cmd_Copy.enabled);
@@ -98,7 +98,7 @@ TEST_F(PolarScreen, PauseOffLeavesTheStepsUntilTheNextPlot) {
     Expect_Step_Display(false);
     EXPECT_EQ(Strokes(), "");
     form.cmd_Step.click();
-    EXPECT_EQ(Strokes(), "CWrererr");
+    EXPECT_EQ(Strokes(), "CWrerer");
     Set_Pause(true);
     EXPECT_EQ(form.PolarStep, 0) << "from the beginning";
 }
@@ -132,7 +132,7 @@ TEST_F(PolarScreen, BothBoxesOffAtFirstUseLeaveAxesAlone) {
     form.chk_Vectors.on = form.chk_Envelope.on = false;
     Strokes();
     form.cmd_Step.click();
-    EXPECT_GT(picture.drawn.size(), 40U);
+    EXPECT_GT(plot.drawn.size(), 40U);
     EXPECT_EQ(Strokes(), "CW");
 }
 
@@ -141,7 +141,7 @@ TEST_F(PolarScreen, ReopeningEndsTheSteps) {
     Strokes();
     Open_Plot(polar, 1, "Veloc I 2,3", "Mag");
     Expect_Step_Display(false);
-    EXPECT_EQ(Strokes(), "CWrererr");
+    EXPECT_EQ(Strokes(), "CWrerer");
 }
 
 TEST_F(PolarScreen, FaultsOfAStepAreReported) {
