@@ -44,6 +44,10 @@ const std::string& Table_Unit(const Program& program, std::int16_t k) {
     return code == table_code::FFTTable ? program.fourier.FFTUnit : program.model.UnitText(code);
 }
 
+std::string Transform_Title(const Program& program) {
+    return "Fourier Transform of  " + program.fourier.FFTFunctionName;
+}
+
 ColumnHead Head_Of_Column(const Program& program, const SlotLabels& labels, std::int16_t k) {
     if (k < 1 || k > static_cast<int>(NumSlots)) Raise(fault::Subscript);
     const auto slot = static_cast<std::size_t>(k) - 1;

@@ -21,6 +21,7 @@ struct ChartSet {
     bool ThickLines{};
     std::vector<float> GraphData;  ///< y by point
     std::vector<float> XPosData;   ///< x by point; of a polar chart alone
+    bool filled{};                 ///< values were put into it; a set without them is not drawn
 
     bool operator==(const ChartSet&) const = default;
 };

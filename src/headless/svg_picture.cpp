@@ -10,7 +10,6 @@
 #include <unordered_set>
 
 #include "core/arithmetic.h"
-#include "core/fault.h"
 
 namespace kervol {
 namespace {
@@ -56,7 +55,7 @@ void SvgPicture::Clear() {
 }
 
 void SvgPicture::Set_Scale(double left, double top, double right, double bottom) {
-    if (Is_Same(left, right) || Is_Same(top, bottom)) Raise(fault::InvalidCall);
+    Check_Scale(left, top, right, bottom);
     const bool same = Is_Same(left, window_.left) && Is_Same(top, window_.top) &&
                       Is_Same(right, window_.right) && Is_Same(bottom, window_.bottom);
     if (!same) Clear();

@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QLineEdit>
 #include <QScreen>
+#include <stdexcept>
 #include <utility>
 
 #include "qt/wide_registers.h"
@@ -113,6 +114,14 @@ void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
             return Lay_Out_And_Bind(form, screens_->frm_PlotSelect3);
         case ScreenId::frm_PlotSelect4:
             return Lay_Out_And_Bind(form, screens_->frm_PlotSelect4);
+        case ScreenId::frm_Plot1:
+        case ScreenId::frm_Plot2:
+        case ScreenId::frm_Plot3:
+        case ScreenId::frm_Plot4:
+        case ScreenId::frm_Myplot2:
+        case ScreenId::frm_MyPlot3:
+        case ScreenId::frm_MyPlot4:
+            throw std::logic_error("a plot screen has no window yet");
         case ScreenId::frm_PrintSelect:
             Lay_Out_Print_Select(*form.window);
             return Bind(form, screens_->frm_PrintSelect);

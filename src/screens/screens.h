@@ -8,6 +8,7 @@
 #include "core/program.h"
 #include "screens/dynamics_screens.h"
 #include "screens/linkage_screen.h"
+#include "screens/plot_screens.h"
 #include "screens/selection_screens.h"
 
 namespace kervol {
@@ -79,6 +80,13 @@ struct Screens {
     PlotSelectScreen frm_PlotSelect2{kPlotSelect2};
     PlotSelectScreen frm_PlotSelect3{kPlotSelect3};
     PlotSelectScreen frm_PlotSelect4{kPlotSelect4};
+    ChartScreen frm_Plot1{kPlot1};
+    ChartScreen frm_Plot2{kPlot2};
+    ChartScreen frm_Plot3{kPlot3};
+    ChartScreen frm_Plot4{kPlot4};
+    OwnPlotScreen frm_Myplot2{kMyplot2};
+    OwnPlotScreen frm_MyPlot3{kMyPlot3};
+    PolarPlotScreen frm_MyPlot4{kMyPlot4};
     PrintSelectScreen frm_PrintSelect;
     PrintDataScreen frm_PrintData;
     QuitScreen frm_Quit;

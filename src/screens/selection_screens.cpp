@@ -45,10 +45,6 @@ SelectionForm::SelectionForm(const SelectionKind& the_kind) : kind(the_kind) {
     cmd_Cancel.caption = "< &Back";
 }
 
-PlotSelectScreen::PlotSelectScreen(const SelectionKind& the_kind) : SelectionForm(the_kind) {
-    cmd_Done.unavailable = "The plots are not there yet.";
-}
-
 PrintSelectScreen::PrintSelectScreen() : SelectionForm(kPrintSelect) {
     opt_Whereto[0].caption = "Screen";
     opt_Whereto[1].caption = "Printer";

@@ -98,11 +98,5 @@ TEST_F(PlotType, EveryScreenHasItsCaption) {
     EXPECT_EQ(caption(ScreenId::frm_PrintData), "Output Screen" + tail);
 }
 
-TEST_F(PlotType, NextOfASelectionFollowsItsRulesButSaysThatPlotsAreNotThereYet) {
-    for (const PlotSelectScreen* form : {&single, &two, &four, &polar})
-        EXPECT_NE(form->cmd_Done.unavailable, "");
-    EXPECT_EQ(print.cmd_Done.unavailable, "");
-}
-
 }  // namespace
 }  // namespace kervol
