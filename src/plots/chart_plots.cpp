@@ -104,6 +104,7 @@ void Plot_Setup(Program& program, ChartView& form, std::int16_t count) {
         Put_Coordinate_Labels(selections, form);
         for (Chart& chart : First_Charts(form, count)) {
             SetGridstyle(form, {&chart, 1});
+            chart.look.sticks = selections.SelFFT;
             Put_Ticks(program, chart.look);
             if (selections.PlotTypePick < 4) chart.Put_NumSets(selections.SelCount);
             chart.Put_NumPoints(points);
@@ -157,6 +158,7 @@ void PolarPlot(Program& program, ChartView& form, const SlotLabels& labels) {
         form.lbl_Header3.caption = Frame_Text(program);
         program.selections.SelCurrent = 1;
         Begin_Only_Set(chart);
+        chart.look.polar = true;
         for (std::int16_t step = 0; step <= program.model.NumSteps; ++step) {
             float magnitude = 0, angle = 0;
             Select_PolarVariable(program, step, 1, magnitude, angle);

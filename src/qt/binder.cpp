@@ -18,6 +18,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "qt/chart_widget.h"
 #include "qt/data_table.h"
 #include "qt/pick_list.h"
 #include "qt/plot_kind_picture.h"
@@ -262,6 +263,16 @@ void Binder::Add(const std::string& name, Grid& grid) {
     auto* widget = Take<DataTable>(name);
     if (widget == nullptr) return;
     Push_Later([widget, &grid] { widget->Show(grid); });
+}
+
+void Binder::Add(const std::string& name, Chart& chart) {
+    auto* widget = Take<ChartWidget>(name);
+    if (widget == nullptr) return;
+    widget->clicked = [this, &chart] { Act(chart, chart.click); };
+    Push_Later([this, widget, &chart] {
+        widget->Show(chart.look);
+        Push_Common(*widget, chart);
+    });
 }
 
 void Binder::Add(const std::string& name, ComboBox& box) {

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/chart.h"
 #include "core/controls.h"
 #include "core/grid.h"
 
@@ -46,6 +47,7 @@ class Binder : public QObject {
     void Add(const std::string& name, ComboBox& box);
     void Add(const std::string& name, PictureBox& picture);
     void Add(const std::string& name, Grid& grid);
+    void Add(const std::string& name, Chart& chart);
     void Add(const std::string& name, MenuItem& item);
     template <std::size_t count>
     void Add(const std::string& name, std::array<OptionButton, count>& group) {

@@ -11,6 +11,7 @@ namespace kervol {
 
 class PictureList;
 struct SelectionKind;
+struct Sheet;
 
 class FormWindow : public QWidget {
   public:
@@ -18,6 +19,8 @@ class FormWindow : public QWidget {
     std::function<void()> close_asked;
     /// Shows what stands on the form beyond the controls of its record. Runs whenever the records are shown.
     std::function<void(const LinkageModel& model)> refresh;
+    /// Asks for a file and writes the sheet there as a picture.
+    std::function<void(const Sheet& sheet)> save_picture;
     QWidget* first_focus = nullptr;
     bool escape_closes = true;
     bool any_click_closes = false;

@@ -69,6 +69,25 @@ QString Text_Of_Box(const std::string& text) {
     return Qt_Text(text).replace("\r\n", "\n").replace('\r', '\n');
 }
 
+/// The ending that the patterns of a name filter ask for; empty where they take any.
+QString Suffix_Of(const QString& filter) {
+    const qsizetype open = filter.lastIndexOf("(*.");
+    const QString suffix = open < 0 ? QString() : filter.mid(open + 3, filter.size() - open - 4);
+    return suffix.contains(' ') || suffix.contains('*') ? QString() : suffix;
+}
+
+/// Another kind of file is chosen: the name that stands in the dialog takes its ending.
+void Follow_Filter(QFileDialog& dialog, const QString& filter) {
+    const QString suffix = Suffix_Of(filter);
+    if (suffix.isEmpty()) return;
+    dialog.setDefaultSuffix(suffix);
+    auto* field = dialog.findChild<QLineEdit*>();
+    if (field == nullptr || field->text().isEmpty()) return;
+    const QFileInfo named(field->text());
+    field->setText(field->text().chopped(named.suffix().isEmpty() ? 0 : named.suffix().size() + 1) + "." +
+                   suffix);
+}
+
 QString Folder_Of(const std::string& path) {
     const QFileInfo file(Qt_Text(path));
     return path.empty() || !file.dir().exists() ? QString() : file.absolutePath();
@@ -124,7 +143,11 @@ std::optional<std::string> QtPort::Ask_File(const FileDialog& dialog, bool savin
     shown.setDirectory(folder);
     const QString name = Qt_Text(dialog.name);
     shown.selectFile(name);
-    if (saving) shown.setDefaultSuffix(QFileInfo(name).suffix());
+    if (saving) {
+        shown.setDefaultSuffix(QFileInfo(name).suffix());
+        QObject::connect(&shown, &QFileDialog::filterSelected, &shown,
+                         [&shown](const QString& filter) { Follow_Filter(shown, filter); });
+    }
     // What is typed takes the place of the proposal.
     if (auto* field = shown.findChild<QLineEdit*>()) QTimer::singleShot(0, field, &QLineEdit::selectAll);
     if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) return std::nullopt;

@@ -137,6 +137,7 @@ QtPort::OpenForm& QtPort::Made_Form(ScreenId screen) {
     form.window = std::make_unique<FormWindow>();
     form.window->setObjectName(Qt_Text(std::string(Screen_Name(screen))));
     form.window->close_asked = [this, screen] { Close_By_User(screen); };
+    form.window->save_picture = [this](const Sheet& sheet) { Run([&] { Save_Picture(sheet); }); };
     Lay_Out(screen, form);
     return form;
 }

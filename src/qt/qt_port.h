@@ -7,10 +7,10 @@
 #include <optional>
 #include <vector>
 
+#include "core/picture_list.h"
 #include "core/port.h"
 #include "qt/binder.h"
 #include "qt/form_window.h"
-#include "qt/picture_list.h"
 #include "qt/run_gate.h"
 #include "screens/screens.h"
 
@@ -78,6 +78,7 @@ class QtPort : public Port {
     QWidget* Front_Window();
 
     std::optional<std::string> Ask_File(const FileDialog& dialog, bool saving);
+    void Save_Picture(const Sheet& sheet);
     bool Choose_Printer(QPrinter& printer, const QString& document);
 
     Screens* screens_ = nullptr;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "qt/picture_list.h"
+#include "core/picture_list.h"
 
 #include "core/arithmetic.h"
 
