@@ -19,6 +19,7 @@
 #include <utility>
 
 #include "qt/chart_widget.h"
+#include "qt/choice_box.h"
 #include "qt/data_table.h"
 #include "qt/pick_list.h"
 #include "qt/plot_kind_picture.h"
@@ -251,6 +252,20 @@ void Binder::Add_List(PickList& widget, ComboBox& box) {
     });
 }
 
+void Binder::Add_Choice(ChoiceBox& widget, ComboBox& box) {
+    widget.typed = [&box](const std::string& text) { box.text = text; };
+    widget.picked = [this, &box](const std::string& text) {
+        if (pushing_) return;
+        Leave_Field();
+        box.text = text;
+        Act(box, box.click);
+    };
+    Push_Later([this, &widget, &box] {
+        widget.Show(box.items, box.text);
+        Push_Common(widget, box);
+    });
+}
+
 void Binder::Add(const std::string& name, PictureBox& picture) {
     auto* widget = Take<PlotKindPicture>(name);
     if (widget == nullptr) return;
@@ -279,6 +294,10 @@ void Binder::Add(const std::string& name, ComboBox& box) {
     if (auto* list = form_.findChild<PickList*>(Qt_Text(name))) {
         names_.insert(name);
         return Add_List(*list, box);
+    }
+    if (auto* choice = form_.findChild<ChoiceBox*>(Qt_Text(name))) {
+        names_.insert(name);
+        return Add_Choice(*choice, box);
     }
     auto* widget = Take<QComboBox>(name);
     if (widget == nullptr) return;

@@ -45,6 +45,8 @@ void Lay_Out_Plot_Type(FormWindow& form);
 void Lay_Out_Plot_Select(FormWindow& form, const SelectionKind& kind);
 void Lay_Out_Print_Select(FormWindow& form);
 void Lay_Out_Print_Data(FormWindow& form);
+void Lay_Out_Flywheel(FormWindow& form);
+void Lay_Out_FFT(FormWindow& form);
 void Lay_Out_Quit(FormWindow& form);
 
 }  // namespace kervol
