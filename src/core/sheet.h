@@ -34,7 +34,7 @@ struct SheetDrawing {
     WorldWindow window;
     bool true_shape = true;  ///< a unit across is as long as one up; else the window fills the box
     Colour background{255, 255, 255};
-    std::vector<Stroke> strokes;
+    std::vector<Stroke> strokes = {};
 };
 
 /// The part of the plane that a chart shows.
@@ -45,15 +45,15 @@ struct PlaneView {
 struct SheetChart {
     SheetBox box;
     ChartLook look;
-    std::optional<PlaneView> view;  ///< nothing for the whole
+    std::optional<PlaneView> view = {};  ///< nothing for the whole
 };
 
 struct Sheet {
     double width, height;
     double pixels = 1;  ///< of the file for one of the page
-    std::vector<SheetDrawing> drawings;
-    std::vector<SheetChart> charts;
-    std::vector<SheetText> texts;
+    std::vector<SheetDrawing> drawings = {};
+    std::vector<SheetChart> charts = {};
+    std::vector<SheetText> texts = {};
 };
 
 enum class PictureFormat { Svg, Png, Pdf };

@@ -25,18 +25,13 @@ struct WindowBounds {
     double left = 0, top = 0, right = 0, bottom = 0;
 };
 
-/// Room around the curve beside the labels: left and right in ranges, top and bottom in limits.
-struct Margins {
-    std::int16_t plots;
-    double left, right, top, bottom;
-};
-constexpr std::array kMargins = {Margins{2, 0.16, 0.04, 1.14, 1.4}, Margins{4, 0.18, 0.04, 1.15, 1.7}};
+constexpr std::array kMargins = {PlotMargins{2, 0.16, 0.04, 1.14, 1.4},
+                                 PlotMargins{4, 0.18, 0.04, 1.15, 1.7}};
 
 /// Without an extent for any other number of plots, which the picture refuses.
 WindowBounds Bounds(std::int16_t plots, double limit, double Xlo, double Xhi) {
-    const auto margins = std::find_if(kMargins.begin(), kMargins.end(),
-                                      [plots](const Margins& entry) { return entry.plots == plots; });
-    if (margins == kMargins.end()) return {};
+    const PlotMargins* margins = Margins_Of(plots);
+    if (margins == nullptr) return {};
     const double range = Xhi - Xlo;
     return {Xlo - margins->left * range, margins->top * limit, Xhi + margins->right * range,
             -margins->bottom * limit};
@@ -65,6 +60,12 @@ void For_Each_Value(double first, double last, double step, Body&& body) {
 }
 
 }  // namespace
+
+const PlotMargins* Margins_Of(std::int16_t plots) {
+    const auto margins = std::find_if(kMargins.begin(), kMargins.end(),
+                                      [plots](const PlotMargins& entry) { return entry.plots == plots; });
+    return margins == kMargins.end() ? nullptr : &*margins;
+}
 
 void SetWindow(Program& program, Picture& picture, float& limit, float Xlo, float Xhi,
                const std::string& function, float& base) {

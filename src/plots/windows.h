@@ -11,6 +11,20 @@
 
 namespace kervol {
 
+/// Room that the window of a stacked plot leaves around its data.
+struct PlotMargins {
+    std::int16_t plots;  ///< `PlotCount`
+    double left, right;  ///< in ranges of the abscissa
+    double top, bottom;  ///< of the window, in limits
+
+    /// Where a part of the range stands between the picture's left edge and its right one.
+    double Across(double part) const { return (left + part) / (1 + left + right); }
+    /// Where a multiple of the limit stands between the picture's top and its bottom.
+    double Down(double limits) const { return (top - limits) / (top + bottom); }
+};
+/// Of 2 or 4 plots; nothing for any other number.
+const PlotMargins* Margins_Of(std::int16_t plots);
+
 /// Clears the picture and sets the window of one of 2 or 4 stacked plots (`PlotCount`): the range from Xlo to
 /// Xhi and twice the limit, with room for the labels. A limit of 0 becomes 0.0001. `base` becomes the sum of
 /// both y bounds. A window that the picture refuses sets `WindowFailed`, with a warning that names the

@@ -59,7 +59,7 @@ void Colour_Text(QWidget& widget, Colour colour) {
 
 /// Names that the toolkit itself or a part of a form without a record may carry.
 bool Is_Own_Name(const QString& name) {
-    return name.isEmpty() || name.startsWith("qt_") || name == "Picture1";
+    return name.isEmpty() || name.startsWith("qt_") || name == "Picture1" || name.startsWith("pct_Plot_");
 }
 
 void Put_Items(QComboBox& box, const std::vector<std::string>& items) {

@@ -31,14 +31,6 @@ std::array<PlotSelectScreen*, kWays.size()> Plot_Selections(Screens& screens) {
             &screens.frm_PlotSelect4};
 }
 
-/// The selection that leads to a plot screen.
-PlotSelectScreen& Selection_Of(Screens& screens, const PlotButtons& form) {
-    const auto way = std::find_if(kWays.begin(), kWays.end(), [&form](const PlotWay& entry) {
-        return entry.annotated == form.kind.screen || entry.plain == form.kind.screen;
-    });
-    return *Plot_Selections(screens).at(static_cast<std::size_t>(way - kWays.begin()));
-}
-
 /// Next of a selection.
 void Show_Plot(Screens& screens, PlotSelectScreen& form, const PlotWay& way) {
     Selections& selections = screens.program.selections;
@@ -156,6 +148,13 @@ void Wire_Polar(Screens& screens, PolarPlotScreen& form) {
 }
 
 }  // namespace
+
+PlotSelectScreen& Selection_Of(Screens& screens, const PlotButtons& form) {
+    const auto way = std::find_if(kWays.begin(), kWays.end(), [&form](const PlotWay& entry) {
+        return entry.annotated == form.kind.screen || entry.plain == form.kind.screen;
+    });
+    return *Plot_Selections(screens).at(static_cast<std::size_t>(way - kWays.begin()));
+}
 
 void Plot_Form_Activate(Screens& screens, ChartScreen& form) {
     Begin_Plot_Form(screens.program, form);
