@@ -19,6 +19,7 @@
 #include <utility>
 
 #include "qt/chart_widget.h"
+#include "qt/choice_box.h"
 #include "qt/data_table.h"
 #include "qt/pick_list.h"
 #include "qt/plot_kind_picture.h"
@@ -42,10 +43,6 @@ bool Is_Passing(const QEvent& event) {
     const auto reason = static_cast<const QFocusEvent&>(event).reason();
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
            reason == Qt::MenuBarFocusReason;
-}
-
-bool Works(const Control& control) {
-    return control.enabled && control.unavailable.empty();
 }
 
 void Colour_Text(QWidget& widget, Colour colour) {
@@ -92,16 +89,15 @@ Widget* Binder::Take(const std::string& name) {
 
 template <class Widget>
 void Binder::Push_Common(Widget& widget, const Control& control) const {
-    widget.setEnabled(Works(control));
+    widget.setEnabled(control.enabled);
     widget.setVisible(control.visible);
-    if (!control.unavailable.empty()) widget.setToolTip(Qt_Text(control.unavailable));
 }
 
 void Binder::Act(const Control& control, const Event& event) {
     if (pushing_) return;
     Leave_Field();
     // Leaving the field may have taken the control away.
-    if (Works(control)) run_(event);
+    if (control.enabled) run_(event);
 }
 
 void Binder::Add(const std::string& name, Label& label) {
@@ -251,6 +247,20 @@ void Binder::Add_List(PickList& widget, ComboBox& box) {
     });
 }
 
+void Binder::Add_Choice(ChoiceBox& widget, ComboBox& box) {
+    widget.typed = [&box](const std::string& text) { box.text = text; };
+    widget.picked = [this, &box](const std::string& text) {
+        if (pushing_) return;
+        Leave_Field();
+        box.text = text;
+        Act(box, box.click);
+    };
+    Push_Later([this, &widget, &box] {
+        widget.Show(box.items, box.text);
+        Push_Common(widget, box);
+    });
+}
+
 void Binder::Add(const std::string& name, PictureBox& picture) {
     auto* widget = Take<PlotKindPicture>(name);
     if (widget == nullptr) return;
@@ -279,6 +289,10 @@ void Binder::Add(const std::string& name, ComboBox& box) {
     if (auto* list = form_.findChild<PickList*>(Qt_Text(name))) {
         names_.insert(name);
         return Add_List(*list, box);
+    }
+    if (auto* choice = form_.findChild<ChoiceBox*>(Qt_Text(name))) {
+        names_.insert(name);
+        return Add_Choice(*choice, box);
     }
     auto* widget = Take<QComboBox>(name);
     if (widget == nullptr) return;

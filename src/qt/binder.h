@@ -23,6 +23,7 @@ class QWidget;
 
 namespace kervol {
 
+class ChoiceBox;
 class PickList;
 
 /// A caption as a widget shows it: as it stands, with line breaks of either kind.
@@ -43,7 +44,7 @@ class Binder : public QObject {
     void Add(const std::string& name, Frame& frame);
     void Add(const std::string& name, CheckBox& box);
     void Add(const std::string& name, ScrollBar& bar);
-    /// Shown by a combo box, or by a list, of which alone the picks are events.
+    /// Shown by a combo box, or by a list, also one that drops down, of which alone the picks are events.
     void Add(const std::string& name, ComboBox& box);
     void Add(const std::string& name, PictureBox& picture);
     void Add(const std::string& name, Grid& grid);
@@ -79,6 +80,7 @@ class Binder : public QObject {
     };
 
     void Add_List(PickList& widget, ComboBox& box);
+    void Add_Choice(ChoiceBox& widget, ComboBox& box);
     void Add_Options(const std::string& name, OptionButton* options, std::size_t count);
     template <class Widget>
     Widget* Take(const std::string& name);

@@ -2,11 +2,6 @@
 #include "screens/screens.h"
 
 namespace kervol {
-namespace {
-
-constexpr const char* kNotThere = "This part of the program is not there yet.";
-
-}  // namespace
 
 TitleScreen::TitleScreen() {
     lblHeader.caption = "A Program for the Kinematic Analysis and Synthesis of Kervol Linkages";
@@ -66,8 +61,6 @@ HomeScreen::HomeScreen() {
     mnu_Version.caption = "&Help";
     mnu_About.caption = "&About Kervol";
     mnu_Disclaimer.caption = "&Disclaimer";
-    cmd_Flywheel.unavailable = kNotThere;
-    mnu_CalcFFT.unavailable = kNotThere;
 }
 
 AboutScreen::AboutScreen() {

@@ -79,6 +79,11 @@ std::unique_ptr<Printer> ScreenPort::Ask_Printer() {
     return RecordingPort::Ask_Printer();
 }
 
+void ScreenPort::Print_Screen(ScreenId screen) {
+    RecordingPort::Print_Screen(screen);
+    if (while_printing) while_printing();
+}
+
 ScreensTest::ScreensTest()
     : program(std::make_unique<Program>(port)),
       screens(std::make_unique<Screens>(*program)),
