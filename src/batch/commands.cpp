@@ -26,6 +26,7 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Draw_Command,
     Animate_Command,
     Dxf_Command,
+    Plot_Command,
 });
 
 int Run_Chosen(const CLI::App& app, const std::vector<Command>& commands, Console& console) {

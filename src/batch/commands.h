@@ -28,5 +28,6 @@ Command Export_Command(CLI::App& app);
 Command Draw_Command(CLI::App& app);
 Command Animate_Command(CLI::App& app);
 Command Dxf_Command(CLI::App& app);
+Command Plot_Command(CLI::App& app);
 
 }  // namespace kervol
