@@ -35,8 +35,8 @@ class ScreenPort : public RecordingPort {
     void Show_Classes() override;
     std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) override;
     std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;
-    std::unique_ptr<Printer> Ask_Printer() override;
     void Print_Screen(ScreenId screen) override;
+    std::unique_ptr<Printer> Ask_Printer() override;
 
     Screens* all = nullptr;
     std::vector<std::string> trace;                     ///< "show frm_User modal", "hide frm_User", ...
@@ -46,7 +46,7 @@ class ScreenPort : public RecordingPort {
     std::function<void()> while_printing;               ///< runs while a screen is printed
     std::deque<std::optional<std::string>> files;       ///< answers of the next file dialogs; then Cancel
     std::deque<Answer> answers;                         ///< answers of the next boxes; then their preset
-    bool printer_breaks = false;                        ///< choosing a printer is fault 57
+    bool printer_breaks = false;                        ///< printing is fault 57
 };
 
 class ScreensTest : public ::testing::Test {
