@@ -24,6 +24,7 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Drive_Command,
     Export_Command,
     Draw_Command,
+    Plot_Command,
 });
 
 int Run_Chosen(const CLI::App& app, const std::vector<Command>& commands, Console& console) {

@@ -26,5 +26,6 @@ Command Example_Command(CLI::App& app);
 Command Drive_Command(CLI::App& app);
 Command Export_Command(CLI::App& app);
 Command Draw_Command(CLI::App& app);
+Command Plot_Command(CLI::App& app);
 
 }  // namespace kervol

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "plots/plot_sheets.h"
 
+#include <algorithm>
 #include <array>
 
 #include "catalogue/table_rows.h"
+#include "core/arithmetic.h"
 #include "core/number_text.h"
 #include "plots/plot_texts.h"
 #include "plots/windows.h"
@@ -74,10 +76,10 @@ void Add_Own_Plot(Sheet& sheet, const OwnPlotView& form, std::size_t i, const Pi
     Add_Foot(sheet, form, i, picture);
 }
 
-std::string Abscissa_Text(const Program& program, std::int16_t index) {
-    const LinkageModel& model = program.model;
-    if (model.CalcMode != 3) return Time_Text(model, index);
-    return program.selections.SelFFT ? std::to_string(index) : FNRoundStr(program.tables.Theta(index, 0), 0);
+/// Of a step or harmonic, as exact as its value.
+std::string Exact_Abscissa(const Program& program, std::int16_t index) {
+    if (program.selections.SelFFT) return std::to_string(index);
+    return Plain_Number(Single(Abscissa(program, index)));
 }
 
 }  // namespace
@@ -128,7 +130,7 @@ std::string Plot_Values(Program& program, const SlotLabels& labels, std::int16_t
             '\t' + Slot_Caption(labels.lbl_Function, slot) + ' ' + Slot_Caption(labels.lbl_Component, slot);
     text += '\n';
     for (std::int16_t index = 0; index <= Last_Row(program); ++index) {
-        text += Abscissa_Text(program, index);
+        text += Exact_Abscissa(program, index);
         for (std::int16_t k = 1; k <= count; ++k) text += '\t' + Plain_Number(Value_At(program, index, k));
         text += '\n';
     }
@@ -138,7 +140,7 @@ std::string Plot_Values(Program& program, const SlotLabels& labels, std::int16_t
 std::string Polar_Plot_Values(const Program& program) {
     std::string text = "\tX\tY\n";
     for (std::int16_t step = 0; step <= program.model.NumSteps; ++step)
-        text += Abscissa_Text(program, step) + '\t' + Plain_Number(program.plots.PolarX(step)) + '\t' +
+        text += Exact_Abscissa(program, step) + '\t' + Plain_Number(program.plots.PolarX(step)) + '\t' +
                 Plain_Number(program.plots.PolarY(step)) + '\n';
     return text;
 }

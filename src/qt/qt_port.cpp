@@ -126,14 +126,6 @@ void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
         case ScreenId::frm_PlotSelect4:
             return Lay_Out_And_Bind(form, screens_->frm_PlotSelect4);
         case ScreenId::frm_Plot1:
-        case ScreenId::frm_Plot2:
-        case ScreenId::frm_Plot3:
-        case ScreenId::frm_Plot4:
-        case ScreenId::frm_Myplot2:
-        case ScreenId::frm_MyPlot3:
-        case ScreenId::frm_MyPlot4:
-            throw std::logic_error("a plot screen has no window yet");
-        case ScreenId::frm_Plot1:
             return Lay_Out_And_Bind(form, screens_->frm_Plot1);
         case ScreenId::frm_Plot2:
             return Lay_Out_And_Bind(form, screens_->frm_Plot2);

@@ -156,7 +156,10 @@ ChartPlot::ChartPlot(QWidget* parent)
     legend->setBorderPen(Qt::NoPen);
     legend->setBrush(Qt::NoBrush);
     legend->setIconSize(kLegendIcon);
-    legend->setMargins({0, 0, 0, 0});
+    legend->setMargins({0, kGap, 0, 0});
+    // The chart library draws the line of an entry somewhat beyond its icon and cuts it, which SVG files do
+    // not.
+    legend->setIconTextPadding(2 * kGap);
     legend->setRowSpacing(2);
     legend->setColumnSpacing(3 * kGap);
     legend->setFillOrder(QCPLegend::foColumnsFirst);
