@@ -25,6 +25,7 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Export_Command,
     Animate_Command,
     Dxf_Command,
+    Report_Command,
 });
 
 int Run_Chosen(const CLI::App& app, const std::vector<Command>& commands, Console& console) {

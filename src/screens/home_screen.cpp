@@ -7,9 +7,11 @@
 #include "core/arithmetic.h"
 #include "core/mathematics.h"
 #include "core/report.h"
+#include "core/text_encoding.h"
 #include "core/units.h"
 #include "files/model_file.h"
 #include "kinematics/examples.h"
+#include "report/report_page.h"
 #include "screens/geometry_fields.h"
 #include "screens/launch_screens.h"
 #include "screens/motion_fields.h"
@@ -85,6 +87,14 @@ void mnu_Save_Click(Screens& screens) {
         Save_Model(screens.program);
     else
         SaveAs(screens);
+}
+
+void mnu_Report_Click(Screens& screens) {
+    Program& program = screens.program;
+    const auto path =
+        program.port.Ask_File_To_Save({"Write a Report", "*.html", program.model.ModelName + ".html"});
+    if (!path || !Write_Report(program, *path)) return;
+    program.port.Show_Message({"The report was written to \n" + Decoded(*path), Icon::Information});
 }
 
 void mnu_pick_Click(Screens& screens, std::int16_t index) {
@@ -168,6 +178,7 @@ void Update_Home_Menu(Screens& screens) {
     HomeScreen& home = screens.frm_HomeScreen;
     for (MenuItem* entry : {&home.mnu_New, &home.mnu_Save, &home.mnu_Saveas, &home.mnu_Export})
         entry->enabled = model.DataCalculated;
+    home.mnu_Report.enabled = model.DataCalculated;
     home.mnu_CalcFFT.enabled = model.DataCalculated && model.CalcMode == 3;
     home.mnu_Export_Torque.enabled = model.DynamicsCalculated;
     if (model.CalcMode == 3) home.cmd_Flywheel.enabled = model.DynamicsCalculated;
@@ -205,6 +216,7 @@ void Wire_Home_Screen(Screens& screens) {
     on(home.mnu_Open.click, "frm_Homescreen.Open", mnu_Open_Click);
     on(home.mnu_Save.click, "frm_Homescreen.Save", mnu_Save_Click);
     on(home.mnu_Saveas.click, "frm_Homescreen.SaveAs", SaveAs);
+    on(home.mnu_Report.click, "frm_Homescreen.Report", mnu_Report_Click);
     for (std::size_t i = 1; i < home.mnu_pick.size(); ++i)
         on(home.mnu_pick[i].click, "frm_Homescreen.Units",
            [i](Screens& all) { mnu_pick_Click(all, static_cast<std::int16_t>(i)); });
