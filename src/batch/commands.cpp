@@ -25,6 +25,7 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Export_Command,
     Animate_Command,
     Dxf_Command,
+    Compare_Command,
     Report_Command,
 });
 

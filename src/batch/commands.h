@@ -27,6 +27,7 @@ Command Drive_Command(CLI::App& app);
 Command Export_Command(CLI::App& app);
 Command Animate_Command(CLI::App& app);
 Command Dxf_Command(CLI::App& app);
+Command Compare_Command(CLI::App& app);
 Command Report_Command(CLI::App& app);
 
 }  // namespace kervol
