@@ -74,6 +74,11 @@ QString Folder_Of(const std::string& path) {
     return path.empty() || !file.dir().exists() ? QString() : file.absolutePath();
 }
 
+/// The keys go to the form again, where no window manager sees to that.
+void Bring_Back(QWidget* form) {
+    if (form != nullptr) form->activateWindow();
+}
+
 /// A box that a lost focus brought up by a click on a button takes the release of the mouse. The press
 /// reaches the button when the box has closed, and would leave it down.
 void Release_Stuck_Buttons(QWidget* form) {
@@ -102,8 +107,7 @@ Answer QtPort::Show_Message(const MessageBox& box) {
     // Escape must not abandon a run.
     if (box.buttons == Buttons::AbortRetryIgnore) shown.setEscapeButton(Button_Of(box.preset));
     const int pressed = shown.exec();
-    // Where no window manager does it.
-    if (QWidget* front = Front_Window()) front->activateWindow();
+    Bring_Back(Front_Window());
     if (busy) Set_Pointer(Pointer::Busy);
     Release_Stuck_Buttons(Front_Window());
     for (const AnswerButton& pair : kAnswers)
@@ -127,7 +131,9 @@ std::optional<std::string> QtPort::Ask_File(const FileDialog& dialog, bool savin
     if (saving) shown.setDefaultSuffix(QFileInfo(name).suffix());
     // What is typed takes the place of the proposal.
     if (auto* field = shown.findChild<QLineEdit*>()) QTimer::singleShot(0, field, &QLineEdit::selectAll);
-    if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) return std::nullopt;
+    const int pressed = shown.exec();
+    Bring_Back(Front_Window());
+    if (pressed != QDialog::Accepted || shown.selectedFiles().isEmpty()) return std::nullopt;
     last_folder_ = shown.directory().absolutePath().toStdString();
     return QDir::toNativeSeparators(shown.selectedFiles().first()).toStdString();
 }

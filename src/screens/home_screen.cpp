@@ -9,6 +9,7 @@
 #include "core/report.h"
 #include "core/text_encoding.h"
 #include "core/units.h"
+#include "files/exchange.h"
 #include "files/model_file.h"
 #include "kinematics/examples.h"
 #include "report/report_page.h"
@@ -61,24 +62,64 @@ void mnu_New_Click(Screens& screens) {
     program.model.DataFromFile = false;
 }
 
-void mnu_Open_Click(Screens& screens) {
-    Program& program = screens.program;
-    if (Unsaved(program.model) && Wants_To_Save(program.port)) {
-        // Deliberate: the save dialog comes twice.
-        SaveAs(screens);
-        SaveAs(screens);
-    }
-    Clear_Tables(program);
-    const auto path = program.port.Ask_File_To_Open(
-        {"Open a model", "KERVOL for Windows (*.kvl)|*.kvl | Kervol DOS(*.ikv)|*.ikv| All (*.*)|*.*|",
-         "*.kvl"});
-    if (!path) return;
-    const ReadReport report = Open_Model(program, *path);
+/// Before a file is read over results that no file holds.
+void Offer_To_Save(Screens& screens) {
+    if (!Unsaved(screens.program.model) || !Wants_To_Save(screens.program.port)) return;
+    // Deliberate: the save dialog comes twice.
+    SaveAs(screens);
+    SaveAs(screens);
+}
+
+/// What follows on a file that could be opened, however far it was read.
+void Close_Reading(Screens& screens, const ReadReport& report) {
     const bool opened = report.line > 0;
     if (!opened) return;
     Update_Home_Menu(screens);
     screens.frm_HomeScreen.mnu_New.enabled = true;
     Clear_Input_Picture(screens);
+}
+
+void mnu_Open_Click(Screens& screens) {
+    Program& program = screens.program;
+    Offer_To_Save(screens);
+    Clear_Tables(program);
+    const auto path = program.port.Ask_File_To_Open(
+        {"Open a model", "KERVOL for Windows (*.kvl)|*.kvl | Kervol DOS(*.ikv)|*.ikv| All (*.*)|*.*|",
+         "*.kvl"});
+    if (path) Close_Reading(screens, Open_Model(program, *path));
+}
+
+void Import(Screens& screens, const FileDialog& dialog,
+            ReadReport (*read)(Program& program, const std::string& path)) {
+    Offer_To_Save(screens);
+    const auto path = screens.program.port.Ask_File_To_Open(dialog);
+    if (path) Close_Reading(screens, read(screens.program, *path));
+}
+
+void mnu_Import_SVA_Click(Screens& screens) {
+    Import(screens, {"Open a Haldrix export data file", "Haldrix Export (*.sva)|*.sva|(*.*)|*.*|", "*.sva"},
+           Import_Cam_Drive);
+}
+
+void mnu_Import_Link2_Drive_Data_Click(Screens& screens) {
+    Import(screens, {"Open a Linkage Drive Data file", "Linkage Export (*.out)|*.out|(*.*)|*.*|", "*.out"},
+           Import_Linkage_Drive);
+}
+
+void mnu_Export_Link_Data_Click(Screens& screens) {
+    Program& program = screens.program;
+    const auto path =
+        program.port.Ask_File_To_Save({"Export Link 6 Data", "Kervol Export (*.out)|*.out|(*.*)|*.*|",
+                                       program.model.ModelName + "_kvl.out"});
+    if (path) Export_Link6(program, *path);
+}
+
+void mnu_Export_Torque_Click(Screens& screens) {
+    Program& program = screens.program;
+    const auto path = program.port.Ask_File_To_Save({"Export Link 2 Driving Torque Data",
+                                                     "Link 2 Torque Export (*.trq)|*.trq|(*.*)|*.*|",
+                                                     program.model.ModelName + "_kvl.trq"});
+    if (path) Export_Torque(program, *path);
 }
 
 void mnu_Save_Click(Screens& screens) {
@@ -217,6 +258,11 @@ void Wire_Home_Screen(Screens& screens) {
     on(home.mnu_Save.click, "frm_Homescreen.Save", mnu_Save_Click);
     on(home.mnu_Saveas.click, "frm_Homescreen.SaveAs", SaveAs);
     on(home.mnu_Report.click, "frm_Homescreen.Report", mnu_Report_Click);
+    on(home.mnu_Export_Link_Data.click, "mnu_link4_Click", mnu_Export_Link_Data_Click);
+    on(home.mnu_Export_Torque.click, "mnu_Torque_export_Click", mnu_Export_Torque_Click);
+    on(home.mnu_Import_SVA.click, "mnu_Link_Data_Import_Click", mnu_Import_SVA_Click);
+    on(home.mnu_Import_Link2_Drive_Data.click, "mnu_Link_Data_Import_Click",
+       mnu_Import_Link2_Drive_Data_Click);
     for (std::size_t i = 1; i < home.mnu_pick.size(); ++i)
         on(home.mnu_pick[i].click, "frm_Homescreen.Units",
            [i](Screens& all) { mnu_pick_Click(all, static_cast<std::int16_t>(i)); });
