@@ -250,12 +250,11 @@ TEST_F(SelectionWindow, TheEightPicturesDiffer) {
     }
 }
 
-TEST_F(SelectionWindow, NextOfAPlotSelectionSaysWhyItDoesNotWork) {
-    In(ScreenId::frm_PlotSelect2, [this](FormWindow& form) {
-        Click_Row(form, "cmb_Preset", 0);
-        EXPECT_TRUE(screens.frm_PlotSelect2.cmd_Done.enabled);
+TEST_F(SelectionWindow, NextOfAPlotSelectionWaitsForItsFunctions) {
+    In(ScreenId::frm_PlotSelect2, [](FormWindow& form) {
         EXPECT_FALSE(Find<QPushButton>(form, "cmd_Done").isEnabled());
-        EXPECT_EQ(Find<QPushButton>(form, "cmd_Done").toolTip(), "The plots are not there yet.");
+        Click_Row(form, "cmb_Preset", 0);
+        EXPECT_TRUE(Find<QPushButton>(form, "cmd_Done").isEnabled());
     });
 }
 

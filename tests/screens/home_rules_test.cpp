@@ -224,6 +224,12 @@ TEST_F(HomeRules, EveryButtonAndEntryDoesSomethingOrSaysWhyNot) {
     for (PlotSelectScreen* form : {&screens->frm_PlotSelect1, &screens->frm_PlotSelect2,
                                    &screens->frm_PlotSelect3, &screens->frm_PlotSelect4})
         Visit_Controls(*form, controls);
+    for (ChartScreen* form :
+         {&screens->frm_Plot1, &screens->frm_Plot2, &screens->frm_Plot3, &screens->frm_Plot4})
+        Visit_Controls(*form, controls);
+    for (OwnPlotScreen* form : {&screens->frm_Myplot2, &screens->frm_MyPlot3})
+        Visit_Controls(*form, controls);
+    Visit_Controls(screens->frm_MyPlot4, controls);
     Visit_Controls(screens->frm_PrintSelect, controls);
     Visit_Controls(screens->frm_PrintData, controls);
     Visit_Controls(screens->frm_Quit, controls);
