@@ -61,6 +61,8 @@ enum class ScreenId {
     frm_MyPlot4,
     frm_PrintSelect,
     frm_PrintData,
+    frm_Flywheel,
+    frm_FFT,
     frm_Quit,
 };
 inline constexpr std::size_t NumScreens = static_cast<std::size_t>(ScreenId::frm_Quit) + 1;

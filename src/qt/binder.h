@@ -23,8 +23,6 @@ class QWidget;
 
 namespace kervol {
 
-class PickList;
-
 /// A caption as a widget shows it: as it stands, with line breaks of either kind.
 QString Shown_Caption(const std::string& caption);
 QString Qt_Text(const std::string& text);
@@ -43,7 +41,7 @@ class Binder : public QObject {
     void Add(const std::string& name, Frame& frame);
     void Add(const std::string& name, CheckBox& box);
     void Add(const std::string& name, ScrollBar& bar);
-    /// Shown by a combo box, or by a list, of which alone the picks are events.
+    /// Shown by a combo box, or by a list, also one that drops down, of which alone the picks are events.
     void Add(const std::string& name, ComboBox& box);
     void Add(const std::string& name, PictureBox& picture);
     void Add(const std::string& name, Grid& grid);
@@ -78,7 +76,10 @@ class Binder : public QObject {
         QLineEdit* widget = nullptr;
     };
 
-    void Add_List(PickList& widget, ComboBox& box);
+    /// Takes the text of a list into the record and raises the event.
+    std::function<void(const std::string& text)> Picking(ComboBox& box, Event ComboBox::*event);
+    template <class List>
+    void Push_List(List& widget, ComboBox& box);
     void Add_Options(const std::string& name, OptionButton* options, std::size_t count);
     template <class Widget>
     Widget* Take(const std::string& name);

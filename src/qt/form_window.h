@@ -52,6 +52,8 @@ void Lay_Out_Own_Plots(FormWindow& form, const PlotKind& kind, std::span<Picture
 void Lay_Out_Polar_Plot(FormWindow& form, const PlotKind& kind, PictureList& picture);
 void Lay_Out_Print_Select(FormWindow& form);
 void Lay_Out_Print_Data(FormWindow& form);
+void Lay_Out_Flywheel(FormWindow& form);
+void Lay_Out_FFT(FormWindow& form);
 void Lay_Out_Quit(FormWindow& form);
 
 }  // namespace kervol

@@ -145,6 +145,12 @@ void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
         case ScreenId::frm_PrintData:
             Lay_Out_Print_Data(*form.window);
             return Bind(form, screens_->frm_PrintData);
+        case ScreenId::frm_Flywheel:
+            Lay_Out_Flywheel(*form.window);
+            return Bind(form, screens_->frm_Flywheel);
+        case ScreenId::frm_FFT:
+            Lay_Out_FFT(*form.window);
+            return Bind(form, screens_->frm_FFT);
     }
 }
 

@@ -362,6 +362,51 @@ void Visit_Controls(PrintDataScreen& screen, Visitor&& visit) {
 }
 
 template <class Visitor>
+void Visit_Controls(FlywheelScreen& screen, Visitor&& visit) {
+    KERVOL_CONTROL(lbl_Header);
+    KERVOL_CONTROL(fra_Energy);
+    KERVOL_CONTROL(pct_Pict1);
+    KERVOL_CONTROL(fra_Fluct);
+    KERVOL_CONTROL(txt_Fluct);
+    KERVOL_CONTROL(fra_Without);
+    KERVOL_CONTROL(fra_With);
+    KERVOL_CONTROL(lbl_Right2);
+    KERVOL_CONTROL(lbl_Torque);
+    KERVOL_CONTROL(lbl_Unit);
+    KERVOL_CONTROL(grf_Plot);
+    KERVOL_CONTROL(cmd_Cancel);
+    KERVOL_CONTROL(cmd_Print);
+    KERVOL_CONTROL(cmd_copy);
+    KERVOL_CONTROL(cmd_Calc);
+    KERVOL_CONTROL(cmd_Done);
+}
+
+template <class Visitor>
+void Visit_Controls(FFTScreen& screen, Visitor&& visit) {
+    KERVOL_CONTROL(lbl_Header);
+    KERVOL_CONTROL(lbl_Header2);
+    KERVOL_CONTROL(fra_Function1);
+    KERVOL_CONTROL(lbl_Var1);
+    KERVOL_CONTROL(cmb_Var1);
+    KERVOL_CONTROL(lbl_Com1);
+    KERVOL_CONTROL(cmb_Com1);
+    KERVOL_CONTROL(cmd_Clear1);
+    KERVOL_CONTROL(lbl_Harmonics);
+    KERVOL_CONTROL(cmb_Harmonics);
+    KERVOL_CONTROL(chk_HGrid);
+    KERVOL_CONTROL(chk_VGrid);
+    KERVOL_CONTROL(chk_Line);
+    KERVOL_CONTROL(chk_Sticks);
+    KERVOL_CONTROL(lbl_Graph);
+    KERVOL_CONTROL(grf_Plot);
+    KERVOL_CONTROL(cmd_Cancel);
+    KERVOL_CONTROL(cmd_Print);
+    KERVOL_CONTROL(cmd_Copy);
+    KERVOL_CONTROL(cmd_Calc);
+    KERVOL_CONTROL(cmd_Done);
+}
+
+template <class Visitor>
 void Visit_Controls(QuitScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(lbl_Question);
     KERVOL_CONTROL(cmd_YesQuit);

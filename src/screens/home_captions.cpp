@@ -66,9 +66,8 @@ HomeScreen::HomeScreen() {
     mnu_Version.caption = "&Help";
     mnu_About.caption = "&About Kervol";
     mnu_Disclaimer.caption = "&Disclaimer";
-    cmd_Flywheel.unavailable = kNotThere;
-    for (MenuItem* entry : {&mnu_Export_Link_Data, &mnu_Export_Torque, &mnu_Import_SVA,
-                            &mnu_Import_Link2_Drive_Data, &mnu_CalcFFT})
+    for (MenuItem* entry :
+         {&mnu_Export_Link_Data, &mnu_Export_Torque, &mnu_Import_SVA, &mnu_Import_Link2_Drive_Data})
         entry->unavailable = kNotThere;
 }
 

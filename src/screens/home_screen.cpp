@@ -195,6 +195,8 @@ void Wire_Home_Screen(Screens& screens) {
     on(home.cmd_Input.click, "frm_Homescreen.Input", opens(ScreenId::frm_Inputnew));
     on(home.cmd_Animate.click, "frm_Homescreen.Animate", cmd_Animate_Click);
     on(home.cmd_Dynamics.click, "frm_Homescreen.Dynamics", opens(ScreenId::frm_MassProp));
+    on(home.cmd_Flywheel.click, "frm_Homescreen.Flywheel", opens(ScreenId::frm_Flywheel));
+    on(home.mnu_CalcFFT.click, "frm_Homescreen.FFT", opens(ScreenId::frm_FFT));
     on(home.cmd_Plot.click, "frm_Homescreen.Plot",
        [](Screens& all) { Open_Selection(all, ScreenId::frm_PlotType); });
     on(home.cmd_Print.click, "frm_Homescreen.Print",

@@ -8,7 +8,9 @@
 #include "core/report.h"
 #include "core/units.h"
 #include "screens/animate_events.h"
+#include "screens/fft_events.h"
 #include "screens/fields.h"
+#include "screens/flywheel_events.h"
 #include "screens/geometry_fields.h"
 #include "screens/home_screen.h"
 #include "screens/input_events.h"
@@ -128,6 +130,9 @@ constexpr auto kScreens = std::to_array<ScreenRow>({
     {ScreenId::frm_PrintSelect, "frm_PrintSelect", "Print Select", Print_Select_Form_Activate,
      CLOSES(frm_PrintSelect.cmd_Cancel)},
     {ScreenId::frm_PrintData, "frm_PrintData", "Output Screen", nullptr, CLOSES(frm_PrintData.cmd_Cancel)},
+    {ScreenId::frm_Flywheel, "frm_Flywheel", "Flywheel Screen", Flywheel_Form_Activate,
+     CLOSES(frm_Flywheel.cmd_Cancel)},
+    {ScreenId::frm_FFT, "frm_FFT", "Fourier Transform", FFT_Form_Activate, CLOSES(frm_FFT.cmd_Cancel)},
     {ScreenId::frm_Quit, "frm_Quit", nullptr, Quit_Form_Activate, CLOSES(frm_Quit.cmd_NoQuit)},
 });
 
@@ -182,6 +187,8 @@ void Wire_Screens(Screens& screens) {
     Wire_Plot_Select_Screens(screens);
     Wire_Plot_Screens(screens);
     Wire_Print_Select_Screens(screens);
+    Wire_Flywheel_Screen(screens);
+    Wire_FFT_Screen(screens);
     on(screens.frm_Title.cmd_Start.click, "frm_Title.Start", cmd_Start_Click);
     on(screens.frm_Title.cmd_Abort.click, "frm_Title.Abort",
        [](Screens& all) { all.program.port.Show_Screen(ScreenId::frm_Quit, Modality::Modal); });

@@ -6,6 +6,7 @@
 
 #include "core/controls.h"
 #include "core/program.h"
+#include "screens/analysis_screens.h"
 #include "screens/dynamics_screens.h"
 #include "screens/linkage_screen.h"
 #include "screens/plot_screens.h"
@@ -89,6 +90,8 @@ struct Screens {
     PolarPlotScreen frm_MyPlot4{kMyPlot4};
     PrintSelectScreen frm_PrintSelect;
     PrintDataScreen frm_PrintData;
+    FlywheelScreen frm_Flywheel;
+    FFTScreen frm_FFT;
     QuitScreen frm_Quit;
 };
 

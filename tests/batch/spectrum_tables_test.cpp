@@ -120,9 +120,8 @@ TEST(SpectrumTables, OfACalculationThatWasGivenUpHaveNoRows) {
 
 TEST(SpectrumTables, OfTheLongestSweepHave512Rows) {
     const TemporaryFolder folder;
-    const std::string model = Model_File(folder, "fine.kvl", [](Program& program) {
-        program.model.ThetaStep = (program.model.ThetaMax - program.model.ThetaMin) / 1024;
-    });
+    const std::string model =
+        Model_File(folder, "fine.kvl", [](Program& program) { program.model.ThetaStepDeg = 0.3515625F; });
     const json tables = Batch({"tables", model, "--fft", "Veloc CP-1", "--component", "Mag"}).Json();
     ASSERT_EQ(tables["NumSteps"], 1024);
     EXPECT_EQ(tables["FFTHalf"], 512);

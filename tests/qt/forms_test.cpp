@@ -111,6 +111,12 @@ std::set<std::string> Names(Screens& screens, ScreenId screen) {
         case ScreenId::frm_PrintData:
             Visit_Controls(screens.frm_PrintData, list);
             break;
+        case ScreenId::frm_Flywheel:
+            Visit_Controls(screens.frm_Flywheel, list);
+            break;
+        case ScreenId::frm_FFT:
+            Visit_Controls(screens.frm_FFT, list);
+            break;
     }
     return list.names;
 }

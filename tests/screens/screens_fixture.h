@@ -43,6 +43,7 @@ class ScreenPort : public RecordingPort {
     std::map<ScreenId, std::function<void()>> opening;  ///< runs before the screen is filled
     std::map<ScreenId, std::function<void()>> script;   ///< what a person does on it while it is open
     std::function<void()> while_box;                    ///< runs while a box stands
+    std::function<void()> while_printing;               ///< runs while a screen is printed
     std::deque<std::optional<std::string>> files;       ///< answers of the next file dialogs; then Cancel
     std::deque<Answer> answers;                         ///< answers of the next boxes; then their preset
     bool printer_breaks = false;                        ///< printing is fault 57
