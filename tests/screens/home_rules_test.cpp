@@ -186,15 +186,13 @@ TEST_F(HomeRules, AUnitSystemOfAFileIsCheckedAndZeroChecksTheFirst) {
     EXPECT_THAT(checked(9), ::testing::IsEmpty());
 }
 
-/// Visits controls and collects those of a screen that a person may click without any effect or reason.
+/// Visits controls and collects those of a screen that a person may click without any effect.
 struct DeadControls {
     std::set<std::string> names, dead;
 
-    void operator()(const std::string& name, const Button& button) { Check(name, button, button.click); }
-    void operator()(const std::string& name, const MenuItem& item) { Check(name, item, item.click); }
-    void operator()(const std::string& name, const OptionButton& option) {
-        Check(name, option, option.click);
-    }
+    void operator()(const std::string& name, const Button& button) { Check(name, button.click); }
+    void operator()(const std::string& name, const MenuItem& item) { Check(name, item.click); }
+    void operator()(const std::string& name, const OptionButton& option) { Check(name, option.click); }
     void operator()(const std::string& name, const Grid&) { names.insert(name); }
     template <class T>
     requires std::derived_from<T, Control>
@@ -205,7 +203,7 @@ struct DeadControls {
     }
 
   private:
-    void Check(const std::string& name, const Control& control, const Event& click) {
+    void Check(const std::string& name, const Event& click) {
         names.insert(name);
         if (!click) dead.insert(name);
     }
