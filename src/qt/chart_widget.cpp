@@ -2,6 +2,7 @@
 #include "qt/chart_widget.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <cmath>
 
 #include "core/chart_values.h"
@@ -60,11 +61,18 @@ void ChartWidget::Show(const ChartLook& look) {
                                  .trimmed());
 }
 
+std::vector<std::size_t> ChartWidget::Drawn_Sets() const {
+    std::vector<std::size_t> drawn;
+    for (std::size_t set = 0; set < Look().sets.size(); ++set)
+        if (Look().sets[set].filled) drawn.push_back(set);
+    return drawn;
+}
+
 std::optional<ChartWidget::Reading> ChartWidget::Nearest(QPointF place) const {
     if (!axisRect()->rect().contains(place.toPoint())) return {};
     std::optional<Reading> nearest;
     double least = kReach;
-    for (std::size_t set = 0; set < Look().sets.size(); ++set) {
+    for (const std::size_t set : Drawn_Sets()) {
         for (std::size_t point = 0; point < Look().sets[set].GraphData.size(); ++point) {
             const QPointF at = Place(set, point);
             const double away =
@@ -145,13 +153,15 @@ void ChartWidget::Zoom(double factor) {
 }
 
 void ChartWidget::Move_Reading(int points, int sets) {
-    const auto set_count = static_cast<int>(Look().sets.size()),
-               point_count = static_cast<int>(Look().LabelText.size());
-    Reading next = reading_.value_or(Reading{0, 0});
+    const std::vector<std::size_t> drawn = Drawn_Sets();
+    if (drawn.empty()) return;
+    Reading next = reading_.value_or(Reading{drawn.front(), 0});
     if (reading_) {
-        next.point =
-            static_cast<std::size_t>(std::clamp(static_cast<int>(next.point) + points, 0, point_count - 1));
-        next.set = static_cast<std::size_t>((static_cast<int>(next.set) + sets + set_count) % set_count);
+        const int last = static_cast<int>(Look().LabelText.size()) - 1,
+                  count = static_cast<int>(drawn.size());
+        const auto place = std::find(drawn.begin(), drawn.end(), next.set) - drawn.begin();
+        next.point = static_cast<std::size_t>(std::clamp(static_cast<int>(next.point) + points, 0, last));
+        next.set = drawn[static_cast<std::size_t>((static_cast<int>(place) + sets + count) % count)];
     }
     Show_Reading(next);
     setAccessibleDescription(Words(next));

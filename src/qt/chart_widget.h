@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "rendering/chart_plot.h"
 
@@ -45,8 +46,9 @@ class ChartWidget : public ChartPlot {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    std::vector<std::size_t> Drawn_Sets() const;
     void Show_Reading(std::optional<Reading> reading);
-    /// The next point along the curve, or the next curve.
+    /// The next point along the curve, or the next curve; nothing where none is drawn.
     void Move_Reading(int points, int sets);
     void Zoom(double factor);
 

@@ -297,6 +297,22 @@ TEST_F(ChartWidgetTest, ArrowKeysReadAlongTheCurves) {
     EXPECT_EQ(widget.Shown_Reading()->point, 2U);
 }
 
+TEST_F(ChartWidgetTest, ASetThatIsNotDrawnIsNotRead) {
+    Chart chart = Filled(1, 3);
+    chart.look.sets[0].GraphData = {-1, 1, -1};
+    chart.Put_NumSets(2);
+    Show(chart.look);
+    EXPECT_EQ(widget.Nearest(Pixel(1, 0)), std::nullopt);
+    QTest::keyClick(&widget, Qt::Key_Right);
+    QTest::keyClick(&widget, Qt::Key_Down);
+    EXPECT_EQ(*widget.Shown_Reading(), (ChartWidget::Reading{0, 0}));
+
+    Chart empty;
+    Show(empty.look);
+    QTest::keyClick(&widget, Qt::Key_Right);
+    EXPECT_EQ(widget.Shown_Reading(), std::nullopt);
+}
+
 TEST_F(ChartWidgetTest, AClickIsAClickAndADragIsNone) {
     int clicks = 0;
     widget.clicked = [&] { ++clicks; };
