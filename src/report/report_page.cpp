@@ -49,6 +49,7 @@ class Page {
     Page(const Program& program, const ReportNotes& notes)
         : program_(program),
           model_(program.model),
+          solved_steps_(notes.solved_steps),
           torque_(program, notes.solved_steps),
           boxes_(notes.boxes.begin(), notes.boxes.end()),
           abscissae_(Sweep_Abscissae(program)) {
@@ -121,7 +122,10 @@ class Page {
                 for (const Curve& curve : group.curves) Add_Least(lines, group, curve);
         for (const CurveGroup& group : forces_)
             if (group.title == DrivingTorque || group.title == ShakingForce) Add_Peak(lines, group);
-        if (forces_.empty()) lines.push_back({"Forces", "not calculated"});
+        if (forces_.empty())
+            lines.push_back({"Forces", "not calculated"});
+        else if (solved_steps_ <= last)
+            lines.push_back({"Forces not solved", "from step " + std::to_string(solved_steps_) + " on"});
         return lines;
     }
 
@@ -279,6 +283,7 @@ class Page {
 
     const Program& program_;
     const LinkageModel& model_;
+    int solved_steps_;
     TorqueAnalysis torque_;
     std::vector<MessageBox> boxes_;
     Abscissae abscissae_;

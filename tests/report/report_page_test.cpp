@@ -207,6 +207,8 @@ TEST_F(ReportTest, LeavesGapsWhereForcesWereNotSolved) {
     EXPECT_TRUE(forces[0].curves[0].values[4].has_value());
     EXPECT_FALSE(forces[0].curves[0].values[5].has_value());
     EXPECT_TRUE(TorqueAnalysis(*program, 5).spectrum().empty());
+    EXPECT_THAT(Report_Page(*program, {.boxes = {}, .solved_steps = 5}),
+                HasSubstr("<th>Forces not solved</th><td>from step 5 on</td>"));
 }
 
 TEST_F(ReportTest, UnwindsTheCrank) {
