@@ -177,10 +177,11 @@ std::string Svg_Start(const FittedView& view, const std::string& title, SvgUse u
     return text;
 }
 
-std::string Svg_Paths(const Program& program, const FittedView& view, const std::string& attributes) {
+std::string Svg_Paths(const Program& program, const FittedView& view, const std::array<Colour, 2>& colours,
+                      const std::string& attributes) {
     std::string text;
     for (const int point : {1, 2}) {
-        const std::string colour = Colour_Text(PathColours.at(static_cast<std::size_t>(point) - 1));
+        const std::string colour = Colour_Text(colours.at(static_cast<std::size_t>(point) - 1));
         for (const Path& run : Coupler_Path(program, point)) {
             text += "<polyline fill=\"none\"" + Attribute("stroke", colour) +
                     Attribute("stroke-width", view.look().path) + attributes + " points=\"";
@@ -218,7 +219,7 @@ std::string Moving_Svg(const Program& program, const TimedCycle& cycle, int size
     const Timeline timeline(cycle);
     const std::string& title = program.model.ModelTitle;
     std::string text = Svg_Start(view, title.empty() ? program.model.ModelName : title, use);
-    text += Svg_Paths(program, view, "") + Svg_Pivots(program.model, view);
+    text += Svg_Paths(program, view, PathColours) + Svg_Pivots(program.model, view);
     if (!timeline.Is_Empty())
         text += Moving_Links(program, timeline, view) + Moving_Roller(program, timeline, view) +
                 Moving_Pins(program, timeline, view) + Moving_Coupler_Points(program, timeline, view);

@@ -3,6 +3,7 @@
 // rows, paths and pivots stand.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "animation/fitted_view.h"
@@ -23,8 +24,9 @@ std::string Moving_Svg(const Program& program, const TimedCycle& cycle, int size
 
 /// The opening tag of a picture of that size, its title and, for a file, its white ground.
 std::string Svg_Start(const FittedView& view, const std::string& title, SvgUse use);
-/// Both coupler paths; `attributes` go to each of them.
-std::string Svg_Paths(const Program& program, const FittedView& view, const std::string& attributes);
+/// Both coupler paths, each in its colour; `attributes` go to all of them.
+std::string Svg_Paths(const Program& program, const FittedView& view, const std::array<Colour, 2>& colours,
+                      const std::string& attributes = "");
 /// The fixed pivots with their signs and names, of a cam drive the cam too.
 std::string Svg_Pivots(const LinkageModel& model, const FittedView& view);
 /// "x,y x,y ...": the corners of a link.

@@ -2,6 +2,7 @@
 // The command that writes the moving linkage as a picture file.
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <filesystem>
 #include <memory>
 

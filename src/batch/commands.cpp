@@ -27,6 +27,8 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Animate_Command,
     Dxf_Command,
     Plot_Command,
+    Compare_Command,
+    Report_Command,
 });
 
 int Run_Chosen(const CLI::App& app, const std::vector<Command>& commands, Console& console) {

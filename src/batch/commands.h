@@ -29,5 +29,7 @@ Command Draw_Command(CLI::App& app);
 Command Animate_Command(CLI::App& app);
 Command Dxf_Command(CLI::App& app);
 Command Plot_Command(CLI::App& app);
+Command Compare_Command(CLI::App& app);
+Command Report_Command(CLI::App& app);
 
 }  // namespace kervol

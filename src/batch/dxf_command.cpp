@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The command that writes a position of the linkage as a drawing.
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "animation/link_shapes.h"
 #include "batch/command_options.h"

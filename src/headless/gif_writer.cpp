@@ -36,7 +36,7 @@ int Distance(const GifColorType& entry, Colour colour) {
 /// A colour map of inks at all strengths on the ground, and the entry nearest to a colour.
 class Palette {
   public:
-    Palette(Colour ground, std::span<const Colour> inks) : entries_(kColours) {
+    Palette(Colour ground, std::span<const Colour> inks) : entries_(kColours), last_(ground) {
         std::size_t next = 0;
         const auto put = [&](Colour ink, int strength) {
             const auto mixed = [&](int below, int above) {
@@ -54,6 +54,16 @@ class Palette {
     const std::vector<GifColorType>& Entries() const { return entries_; }
 
     GifPixelType Nearest(Colour colour) {
+        // Neighbours mostly have the same colour.
+        if (!(colour == last_)) {
+            last_ = colour;
+            nearest_to_last_ = Look_Up(colour);
+        }
+        return nearest_to_last_;
+    }
+
+  private:
+    GifPixelType Look_Up(Colour colour) {
         const int key = colour.red << 16 | colour.green << 8 | colour.blue;
         const auto known = nearest_.find(key);
         if (known != nearest_.end()) return known->second;
@@ -64,9 +74,10 @@ class Palette {
         return nearest_[key] = static_cast<GifPixelType>(found - entries_.begin());
     }
 
-  private:
     std::vector<GifColorType> entries_;
     std::unordered_map<int, GifPixelType> nearest_;
+    Colour last_;  ///< the ground, which is entry 0
+    GifPixelType nearest_to_last_ = 0;
 };
 
 struct Rectangle {

@@ -231,30 +231,17 @@ void Binder::Add(const std::string& name, ScrollBar& bar) {
     });
 }
 
-void Binder::Add_List(PickList& widget, ComboBox& box) {
-    const auto act = [this, &box](Event ComboBox::*event) {
-        return [this, &box, event](const std::string& text) {
-            Leave_Field();
-            box.text = text;
-            Act(box, box.*event);
-        };
-    };
-    widget.picked = act(&ComboBox::click);
-    widget.picked_twice = act(&ComboBox::double_click);
-    Push_Later([this, &widget, &box] {
-        widget.Show(box.items, box.text);
-        Push_Common(widget, box);
-    });
-}
-
-void Binder::Add_Choice(ChoiceBox& widget, ComboBox& box) {
-    widget.typed = [&box](const std::string& text) { box.text = text; };
-    widget.picked = [this, &box](const std::string& text) {
-        if (pushing_) return;
+std::function<void(const std::string&)> Binder::Picking(ComboBox& box, Event ComboBox::*event) {
+    return [this, &box, event](const std::string& text) {
         Leave_Field();
         box.text = text;
-        Act(box, box.click);
+        Act(box, box.*event);
     };
+}
+
+template <class List>
+void Binder::Push_List(List& widget, ComboBox& box) {
+    widget.picked = Picking(box, &ComboBox::click);
     Push_Later([this, &widget, &box] {
         widget.Show(box.items, box.text);
         Push_Common(widget, box);
@@ -288,11 +275,13 @@ void Binder::Add(const std::string& name, Chart& chart) {
 void Binder::Add(const std::string& name, ComboBox& box) {
     if (auto* list = form_.findChild<PickList*>(Qt_Text(name))) {
         names_.insert(name);
-        return Add_List(*list, box);
+        list->picked_twice = Picking(box, &ComboBox::double_click);
+        return Push_List(*list, box);
     }
     if (auto* choice = form_.findChild<ChoiceBox*>(Qt_Text(name))) {
         names_.insert(name);
-        return Add_Choice(*choice, box);
+        choice->typed = [&box](const std::string& text) { box.text = text; };
+        return Push_List(*choice, box);
     }
     auto* widget = Take<QComboBox>(name);
     if (widget == nullptr) return;

@@ -23,9 +23,6 @@ class QWidget;
 
 namespace kervol {
 
-class ChoiceBox;
-class PickList;
-
 /// A caption as a widget shows it: as it stands, with line breaks of either kind.
 QString Shown_Caption(const std::string& caption);
 QString Qt_Text(const std::string& text);
@@ -79,8 +76,10 @@ class Binder : public QObject {
         QLineEdit* widget = nullptr;
     };
 
-    void Add_List(PickList& widget, ComboBox& box);
-    void Add_Choice(ChoiceBox& widget, ComboBox& box);
+    /// Takes the text of a list into the record and raises the event.
+    std::function<void(const std::string& text)> Picking(ComboBox& box, Event ComboBox::*event);
+    template <class List>
+    void Push_List(List& widget, ComboBox& box);
     void Add_Options(const std::string& name, OptionButton* options, std::size_t count);
     template <class Widget>
     Widget* Take(const std::string& name);

@@ -8,6 +8,7 @@ FFTScreen::FFTScreen() {
     lbl_Var1.caption = "Variable";
     lbl_Com1.caption = "Component";
     lbl_Harmonics.caption = "No of Harmonics";
+    lbl_Header2.visible = false;
     cmb_Com1.text = "X";
     cmb_Harmonics.text = "15";
     const std::array<const char*, graphs> columns = {"Real", "Img", "Mag", "Phs"};

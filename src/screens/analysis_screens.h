@@ -19,7 +19,7 @@ struct FFTScreen : GridStyleBoxes {
     static constexpr std::size_t graphs = 4;
 
     Label lbl_Header;
-    Label lbl_Header2;  ///< empty
+    Label lbl_Header2;  ///< never shown
     Frame fra_Function1;
     Label lbl_Var1, lbl_Com1, lbl_Harmonics;
     ComboBox cmb_Var1, cmb_Com1, cmb_Harmonics;

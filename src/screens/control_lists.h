@@ -83,6 +83,7 @@ void Visit_Controls(HomeScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(mnu_Open);
     KERVOL_CONTROL(mnu_Save);
     KERVOL_CONTROL(mnu_Saveas);
+    KERVOL_CONTROL(mnu_Report);
     KERVOL_CONTROL(mnu_Export);
     KERVOL_CONTROL(mnu_Export_Link_Data);
     KERVOL_CONTROL(mnu_Export_Torque);

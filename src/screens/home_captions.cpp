@@ -41,6 +41,7 @@ HomeScreen::HomeScreen() {
     mnu_Open.caption = "&Open";
     mnu_Save.caption = "&Save";
     mnu_Saveas.caption = "Save &as";
+    mnu_Report.caption = "&Report...";
     mnu_Export.caption = "Export";
     mnu_Export_Link_Data.caption = "Link 6 Theta-Omega-Alpha Data";
     mnu_Export_Torque.caption = "Link 2 Driving Torque Data";

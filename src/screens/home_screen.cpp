@@ -7,10 +7,12 @@
 #include "core/arithmetic.h"
 #include "core/mathematics.h"
 #include "core/report.h"
+#include "core/text_encoding.h"
 #include "core/units.h"
 #include "files/exchange.h"
 #include "files/model_file.h"
 #include "kinematics/examples.h"
+#include "report/report_page.h"
 #include "screens/geometry_fields.h"
 #include "screens/launch_screens.h"
 #include "screens/motion_fields.h"
@@ -128,6 +130,14 @@ void mnu_Save_Click(Screens& screens) {
         SaveAs(screens);
 }
 
+void mnu_Report_Click(Screens& screens) {
+    Program& program = screens.program;
+    const auto path =
+        program.port.Ask_File_To_Save({"Write a Report", "*.html", program.model.ModelName + ".html"});
+    if (!path || !Write_Report(program, *path)) return;
+    program.port.Show_Message({"The report was written to \n" + Decoded(*path), Icon::Information});
+}
+
 void mnu_pick_Click(Screens& screens, std::int16_t index) {
     LinkageModel& model = screens.program.model;
     auto& picks = screens.frm_HomeScreen.mnu_pick;
@@ -209,6 +219,7 @@ void Update_Home_Menu(Screens& screens) {
     HomeScreen& home = screens.frm_HomeScreen;
     for (MenuItem* entry : {&home.mnu_New, &home.mnu_Save, &home.mnu_Saveas, &home.mnu_Export})
         entry->enabled = model.DataCalculated;
+    home.mnu_Report.enabled = model.DataCalculated;
     home.mnu_CalcFFT.enabled = model.DataCalculated && model.CalcMode == 3;
     home.mnu_Export_Torque.enabled = model.DynamicsCalculated;
     if (model.CalcMode == 3) home.cmd_Flywheel.enabled = model.DynamicsCalculated;
@@ -248,6 +259,7 @@ void Wire_Home_Screen(Screens& screens) {
     on(home.mnu_Open.click, "frm_Homescreen.Open", mnu_Open_Click);
     on(home.mnu_Save.click, "frm_Homescreen.Save", mnu_Save_Click);
     on(home.mnu_Saveas.click, "frm_Homescreen.SaveAs", SaveAs);
+    on(home.mnu_Report.click, "frm_Homescreen.Report", mnu_Report_Click);
     on(home.mnu_Export_Link_Data.click, "mnu_link4_Click", mnu_Export_Link_Data_Click);
     on(home.mnu_Export_Torque.click, "mnu_Torque_export_Click", mnu_Export_Torque_Click);
     on(home.mnu_Import_SVA.click, "mnu_Link_Data_Import_Click", mnu_Import_SVA_Click);

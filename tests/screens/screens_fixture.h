@@ -37,7 +37,6 @@ class ScreenPort : public RecordingPort {
     std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;
     void Print_Screen(ScreenId screen) override;
     std::unique_ptr<Printer> Ask_Printer() override;
-    void Print_Screen(ScreenId screen) override;
 
     Screens* all = nullptr;
     std::vector<std::string> trace;                     ///< "show frm_User modal", "hide frm_User", ...
