@@ -366,7 +366,8 @@ bool Binder::Field_Event(const Field& field, QEvent* event) {
     }
     if (event->type() == QEvent::FocusIn && !Is_Passing(*event)) {
         // Called back to a refused entry, the user may also leave it as it stands: it is not refused again.
-        if (!placing_) entered_ = field;
+        // What was put in its place is taken.
+        if (!placing_ || field.record->put_value) entered_ = field;
         field.widget->selectAll();
         // The press that brings the focus sets the cursor and so ends the selection.
         clicked_in_ = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
