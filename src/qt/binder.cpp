@@ -345,6 +345,7 @@ void Binder::Push() {
 void Binder::Leave_Field() {
     if (entered_.record == nullptr || pushing_) return;
     const Field left = std::exchange(entered_, {});
+    typed_ = left.record->put_value ? nullptr : left.record;
     run_(left.record->lost_focus);
 }
 
@@ -357,6 +358,9 @@ void Binder::Set_Focus(std::string_view name) {
     widget->setFocus(Qt::OtherFocusReason);
     placing_ = false;
     if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
+    // What was put in the place of a refused entry counts as entered.
+    for (const Field& field : fields_)
+        if (field.widget == widget && field.record == typed_ && field.record->put_value) entered_ = field;
 }
 
 bool Binder::Field_Event(const Field& field, QEvent* event) {
@@ -366,8 +370,7 @@ bool Binder::Field_Event(const Field& field, QEvent* event) {
     }
     if (event->type() == QEvent::FocusIn && !Is_Passing(*event)) {
         // Called back to a refused entry, the user may also leave it as it stands: it is not refused again.
-        // What was put in its place is taken.
-        if (!placing_ || field.record->put_value) entered_ = field;
+        if (!placing_) entered_ = field;
         field.widget->selectAll();
         // The press that brings the focus sets the cursor and so ends the selection.
         clicked_in_ = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
