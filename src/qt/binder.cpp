@@ -273,12 +273,14 @@ void Binder::Add(const std::string& name, Chart& chart) {
 }
 
 void Binder::Add(const std::string& name, ComboBox& box) {
-    if (auto* list = form_.findChild<PickList*>(Qt_Text(name))) {
+    // Searching by type would take every box of the toolkit for one of ours.
+    auto* found = form_.findChild<QWidget*>(Qt_Text(name));
+    if (auto* list = dynamic_cast<PickList*>(found)) {
         names_.insert(name);
         list->picked_twice = Picking(box, &ComboBox::double_click);
         return Push_List(*list, box);
     }
-    if (auto* choice = form_.findChild<ChoiceBox*>(Qt_Text(name))) {
+    if (auto* choice = dynamic_cast<ChoiceBox*>(found)) {
         names_.insert(name);
         choice->typed = [&box](const std::string& text) { box.text = text; };
         return Push_List(*choice, box);
