@@ -273,12 +273,14 @@ void Binder::Add(const std::string& name, Chart& chart) {
 }
 
 void Binder::Add(const std::string& name, ComboBox& box) {
-    if (auto* list = form_.findChild<PickList*>(Qt_Text(name))) {
+    // Searching by type would take every box of the toolkit for one of ours.
+    auto* found = form_.findChild<QWidget*>(Qt_Text(name));
+    if (auto* list = dynamic_cast<PickList*>(found)) {
         names_.insert(name);
         list->picked_twice = Picking(box, &ComboBox::double_click);
         return Push_List(*list, box);
     }
-    if (auto* choice = form_.findChild<ChoiceBox*>(Qt_Text(name))) {
+    if (auto* choice = dynamic_cast<ChoiceBox*>(found)) {
         names_.insert(name);
         choice->typed = [&box](const std::string& text) { box.text = text; };
         return Push_List(*choice, box);
@@ -345,6 +347,7 @@ void Binder::Push() {
 void Binder::Leave_Field() {
     if (entered_.record == nullptr || pushing_) return;
     const Field left = std::exchange(entered_, {});
+    typed_ = left.record->put_value ? nullptr : left.record;
     run_(left.record->lost_focus);
 }
 
@@ -357,6 +360,9 @@ void Binder::Set_Focus(std::string_view name) {
     widget->setFocus(Qt::OtherFocusReason);
     placing_ = false;
     if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
+    // What was put in the place of a refused entry counts as entered.
+    for (const Field& field : fields_)
+        if (field.widget == widget && field.record == typed_ && field.record->put_value) entered_ = field;
 }
 
 bool Binder::Field_Event(const Field& field, QEvent* event) {

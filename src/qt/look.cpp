@@ -2,6 +2,7 @@
 #include "qt/look.h"
 
 #include <QApplication>
+#include <QProxyStyle>
 
 namespace kervol {
 namespace {
@@ -16,6 +17,17 @@ QColor Mixed(const QColor& one, const QColor& other, double share) {
     return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
                             mix(one.blueF(), other.blueF()));
 }
+
+/// Long lists drop down below their box, instead of over the whole height of the screen.
+class DropDownStyle : public QProxyStyle {
+  public:
+    DropDownStyle() : QProxyStyle("Fusion") {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 }  // namespace
 
@@ -35,7 +47,7 @@ QPalette Readable_Roles(const QPalette& desktop) {
 }
 
 void Set_Look() {
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new DropDownStyle);
     QApplication::setPalette(Readable_Roles(QApplication::palette()));
 }
 

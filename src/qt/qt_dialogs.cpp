@@ -5,9 +5,11 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
+#include <algorithm>
 #include <array>
 
 #include "qt/file_filter.h"
@@ -69,6 +71,15 @@ QString Text_Of_Box(const std::string& text) {
     return Qt_Text(text).replace("\r\n", "\n").replace('\r', '\n');
 }
 
+/// A box breaks lines that are not very long once more; texts are broken where they should be.
+void Keep_Lines(QMessageBox& box) {
+    constexpr int kWidest = 640;
+    auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+    if (label == nullptr) return;
+    const int width = label->fontMetrics().size(0, box.text()).width();
+    label->setMinimumWidth(std::min(width, kWidest));
+}
+
 /// The ending that the patterns of a name filter ask for; empty where they take any.
 QString Suffix_Of(const QString& filter) {
     const qsizetype open = filter.lastIndexOf("(*.");
@@ -120,6 +131,7 @@ Answer QtPort::Show_Message(const MessageBox& box) {
     shown.setWindowTitle(Qt_Text(screens_->program.model.ProgramTitle));
     shown.setTextFormat(Qt::PlainText);
     shown.setText(Text_Of_Box(box.text));
+    Keep_Lines(shown);
     shown.setIcon(Qt_Icon(box.icon));
     shown.setStandardButtons(Qt_Buttons(box.buttons));
     shown.setDefaultButton(Button_Of(box.preset));

@@ -394,8 +394,10 @@ void Visit_Controls(FFTScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(cmd_Clear1);
     KERVOL_CONTROL(lbl_Harmonics);
     KERVOL_CONTROL(cmb_Harmonics);
+    KERVOL_CONTROL(fra_Grid);
     KERVOL_CONTROL(chk_HGrid);
     KERVOL_CONTROL(chk_VGrid);
+    KERVOL_CONTROL(fra_Style);
     KERVOL_CONTROL(chk_Line);
     KERVOL_CONTROL(chk_Sticks);
     KERVOL_CONTROL(lbl_Graph);

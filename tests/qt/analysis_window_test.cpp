@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include "dynamics/solve_forces.h"
 #include "kinematics/step_count.h"
@@ -47,6 +48,18 @@ TEST_F(AnalysisWindowTest, AFunctionIsPickedFromTheOpenListOnly) {
         EXPECT_EQ(screens.frm_FFT.cmb_Var1.text, screens.frm_FFT.cmb_Var1.items.at(1));
         EXPECT_EQ(box.currentText().toStdString(), screens.frm_FFT.cmb_Var1.text);
         EXPECT_TRUE(Find<QPushButton>(form, "cmd_Done").hasFocus());
+    });
+}
+
+TEST_F(AnalysisWindowTest, ALongListDropsDownBelowItsBox) {
+    In(ScreenId::frm_FFT, [](FormWindow& form) {
+        ChoiceBox& box = Box(form, "cmb_Var1");
+        ASSERT_GT(box.count(), 60);
+        box.showPopup();
+        const QWidget& list = *box.view()->window();
+        EXPECT_GE(list.y(), box.mapToGlobal(box.rect().bottomLeft()).y());
+        EXPECT_LE(list.geometry().bottom(), form.screen()->geometry().bottom());
+        box.hidePopup();
     });
 }
 
@@ -150,6 +163,30 @@ TEST_F(AnalysisWindowTest, ARefusedCoefficientComesBackAs005) {
         QTest::keyClick(&Find<QLineEdit>(form, "txt_Fluct"), Qt::Key_Return);
         EXPECT_EQ(Find<QLineEdit>(form, "txt_Fluct").text(), "0.05");
         EXPECT_TRUE(Find<QLineEdit>(form, "txt_Fluct").hasFocus());
+    });
+}
+
+TEST_F(AnalysisWindowTest, WhatARefusalPutBackIsTakenWhenTheFieldIsLeftNext) {
+    // Fluctuates by 2 about 10.
+    auto& torque = program->tables.TorqueTable;
+    for (int step = 0; step <= program->model.NumSteps; ++step) torque(step, 0) = 10;
+    torque(7, 0) = 12;
+    torque(9, 0) = 8;
+    In(ScreenId::frm_Flywheel, [this](FormWindow& form) {
+        const auto& field = Find<QLineEdit>(form, "txt_Fluct");
+        const auto& maximum = Find<QLabel>(form, "lbl_Torque_1");
+        const auto leave = [&form] { Find<QPushButton>(form, "cmd_Cancel").setFocus(); };
+        Type(form, "txt_Fluct", "0.5");
+        leave();
+        EXPECT_EQ(maximum.text(), "11");
+        Type(form, "txt_Fluct", "-1");
+        Answer_With_Enter();
+        leave();
+        EXPECT_EQ(field.text(), "0.05");
+        EXPECT_EQ(form.focusWidget(), &field);
+        EXPECT_EQ(maximum.text(), "11") << "still that of 0.5";
+        leave();
+        EXPECT_EQ(maximum.text(), "10.1");
     });
 }
 
