@@ -290,7 +290,8 @@ void Binder::Add(const std::string& name, ComboBox& box) {
         names_.insert(name);
         return Add_List(*list, box);
     }
-    if (auto* choice = form_.findChild<ChoiceBox*>(Qt_Text(name))) {
+    // The toolkit's search knows no more of it than that it is some combo box.
+    if (auto* choice = dynamic_cast<ChoiceBox*>(form_.findChild<QComboBox*>(Qt_Text(name)))) {
         names_.insert(name);
         return Add_Choice(*choice, box);
     }
