@@ -104,6 +104,7 @@ TEST_F(AnalysisWindowTest, EnterOnNoFunctionAsksForOneAndComesBack) {
         ChoiceBox& box = Box(form, "cmb_Var1");
         Answer_With_Enter();
         QTest::keyClick(&box, Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
         EXPECT_TRUE(box.hasFocus());
     });
 }
@@ -161,6 +162,7 @@ TEST_F(AnalysisWindowTest, ARefusedCoefficientComesBackAs005) {
         Type(form, "txt_Fluct", "0");
         Answer_With_Enter();
         QTest::keyClick(&Find<QLineEdit>(form, "txt_Fluct"), Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
         EXPECT_EQ(Find<QLineEdit>(form, "txt_Fluct").text(), "0.05");
         EXPECT_TRUE(Find<QLineEdit>(form, "txt_Fluct").hasFocus());
     });
@@ -182,6 +184,7 @@ TEST_F(AnalysisWindowTest, WhatARefusalPutBackIsTakenWhenTheFieldIsLeftNext) {
         Type(form, "txt_Fluct", "-1");
         Answer_With_Enter();
         leave();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&form)) << "comes back behind the box";
         EXPECT_EQ(field.text(), "0.05");
         EXPECT_EQ(form.focusWidget(), &field);
         EXPECT_EQ(maximum.text(), "11") << "still that of 0.5";
