@@ -111,6 +111,7 @@ TEST_F(AnalysisWindowTest, EnterOnNoFunctionAsksForOneAndComesBack) {
 
 TEST_F(AnalysisWindowTest, TheGraphsOfASpectrumShowTheRecords) {
     In(ScreenId::frm_FFT, [this](FormWindow& form) {
+        form.resize(1280, 800);
         screens.frm_FFT.cmb_Var1.text = "Theta3";
         port.Run(screens.frm_FFT.cmb_Var1.click);
         for (int graph = 0; graph < 4; ++graph) {
