@@ -57,7 +57,7 @@ void Add_Foot(Sheet& sheet, const OwnPlotView& form, std::size_t i, const SheetB
     const double top = picture.top + picture.height + kLine;
     sheet.texts.push_back({{picture.left, top, picture.width, kLine}, form.lbl_BottomTitle[i].caption});
     const std::string extremes = "Min " + form.lbl_Min[i].caption + "    Max " + form.lbl_Max[i].caption +
-                                 "    Peak to Peak " + form.lbl_Peak[i].caption;
+                                 "    Range " + form.lbl_Peak[i].caption;
     sheet.texts.push_back({{picture.left, top, picture.width, kLine}, extremes, TextSide::Right, kSmall});
 }
 

@@ -43,8 +43,8 @@ void LabelStrip::resizeEvent(QResizeEvent* event) {
 }
 
 bool LabelStrip::event(QEvent* event) {
-    // A label has another text.
-    if (event->type() == QEvent::LayoutRequest) {
+    // A label has another text; one that got it while it was hidden asked for nothing.
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) {
         Put_Labels();
         updateGeometry();
     }

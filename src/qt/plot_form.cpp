@@ -109,14 +109,14 @@ QHBoxLayout* New_Plot_Title(std::size_t i) {
     return row;
 }
 
-/// The title of the abscissa, and the extremes.
+/// The title of the abscissa, and the extremes. Two of them beside each other fit a screen of 1024 pixels.
 QHBoxLayout* New_Plot_Foot(std::size_t i) {
     auto* row = new QHBoxLayout;
-    row->setSpacing(kGap);
+    row->setSpacing(kGap - 2);
     row->addWidget(New_Label(Indexed("lbl_BottomTitle", i)));
     row->addStretch();
     for (const auto& [caption, name] :
-         {std::pair("Min", "lbl_Min"), std::pair("Max", "lbl_Max"), std::pair("Peak to Peak", "lbl_Peak")}) {
+         {std::pair("Min", "lbl_Min"), std::pair("Max", "lbl_Max"), std::pair("Range", "lbl_Peak")}) {
         QLabel* title = New_Label({});
         title->setText(caption);
         title->setEnabled(false);
