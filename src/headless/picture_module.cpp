@@ -2,16 +2,28 @@
 #include "headless/picture_module.h"
 
 #include <dlfcn.h>
+#include <filesystem>
+#include <system_error>
 
 namespace kervol {
 namespace {
 
-/// Found by the search path of the program: beside it, or in ../lib/kervol.
 constexpr const char* kModule = "libkervol-pictures.so";
+
+/// Beside the program or in ../lib/kervol, else wherever the system looks. Sought here, since a search path
+/// within the program is not heeded where a sanitizer loads for it.
+std::string Module_Path() {
+    namespace fs = std::filesystem;
+    std::error_code error;
+    const fs::path program = fs::read_symlink("/proc/self/exe", error).parent_path();
+    for (const fs::path& folder : {program, program / "../lib/kervol"})
+        if (fs::exists(folder / kModule, error)) return folder / kModule;
+    return kModule;
+}
 
 RenderEntry Entry() {
     // Stays loaded: the toolkit cannot be taken out again.
-    void* module = dlopen(kModule, RTLD_NOW | RTLD_LOCAL);
+    void* module = dlopen(Module_Path().c_str(), RTLD_NOW | RTLD_LOCAL);
     if (module == nullptr) {
         const char* reason = dlerror();
         throw PictureModuleError("pictures need " + std::string(kModule) +
