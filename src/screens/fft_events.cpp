@@ -90,6 +90,7 @@ void FFT_Plot_Setup(Screens& screens) {
         for (std::int16_t graph = 0; graph < fourier.NumPlots; ++graph) {
             Chart& chart = screen.grf_Plot.at(static_cast<std::size_t>(graph));
             SetGridstyle(screen, {&chart, 1});
+            chart.look.sticks = true;
             // A chart cannot have its ticks closer than its points.
             const double spacing = Divide(fourier.NumHarmonics, screen.MaxTicks);
             chart.look.TickEvery = std::max<std::int16_t>(Int16(spacing), 1);
