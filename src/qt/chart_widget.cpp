@@ -2,6 +2,7 @@
 #include "qt/chart_widget.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <cmath>
 
 #include "core/chart_values.h"
@@ -64,7 +65,7 @@ std::optional<ChartWidget::Reading> ChartWidget::Nearest(QPointF place) const {
     if (!axisRect()->rect().contains(place.toPoint())) return {};
     std::optional<Reading> nearest;
     double least = kReach;
-    for (std::size_t set = 0; set < Look().sets.size(); ++set) {
+    for (const std::size_t set : Drawn_Sets()) {
         for (std::size_t point = 0; point < Look().sets[set].GraphData.size(); ++point) {
             const QPointF at = Place(set, point);
             const double away =
@@ -134,25 +135,42 @@ void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
 
 void ChartWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     ChartPlot::mouseDoubleClickEvent(event);
-    Show_Whole();
-    Show_Reading({});
-    replot(rpQueuedReplot);
+    Reset_View();
 }
 
 void ChartWidget::Zoom(double factor) {
+    Show_Reading({});
     for (QCPAxis* axis : {xAxis, yAxis}) axis->scaleRange(factor);
     replot(rpQueuedReplot);
 }
 
+void ChartWidget::Reset_View() {
+    Show_Reading({});
+    Show_Whole();
+    replot(rpQueuedReplot);
+}
+
+std::vector<std::size_t> ChartWidget::Drawn_Sets() const {
+    std::vector<std::size_t> drawn;
+    for (std::size_t set = 0; set < Look().sets.size(); ++set)
+        if (Look().sets[set].filled) drawn.push_back(set);
+    return drawn;
+}
+
 void ChartWidget::Move_Reading(int points, int sets) {
-    const auto set_count = static_cast<int>(Look().sets.size()),
-               point_count = static_cast<int>(Look().LabelText.size());
-    Reading next = reading_.value_or(Reading{0, 0});
+    const std::vector<std::size_t> drawn = Drawn_Sets();
+    if (drawn.empty()) return;
+    Reading next{drawn.front(), 0};
     if (reading_) {
+        const auto count = static_cast<int>(drawn.size());
+        const auto last = static_cast<int>(Look().LabelText.size()) - 1;
+        const auto now = std::find(drawn.begin(), drawn.end(), reading_->set) - drawn.begin();
+        next.set = drawn.at(static_cast<std::size_t>((static_cast<int>(now) + sets + count) % count));
         next.point =
-            static_cast<std::size_t>(std::clamp(static_cast<int>(next.point) + points, 0, point_count - 1));
-        next.set = static_cast<std::size_t>((static_cast<int>(next.set) + sets + set_count) % set_count);
+            static_cast<std::size_t>(std::clamp(static_cast<int>(reading_->point) + points, 0, last));
     }
+    const QPointF at = Place(next.set, next.point);
+    if (!xAxis->range().contains(at.x()) || !yAxis->range().contains(at.y())) Reset_View();
     Show_Reading(next);
     setAccessibleDescription(Words(next));
 }
@@ -172,11 +190,29 @@ void ChartWidget::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Minus:
             return Zoom(1 / kKeyZoom);
         case Qt::Key_0:
-            Show_Whole();
-            return replot(rpQueuedReplot);
+            return Reset_View();
         default:
             ChartPlot::keyPressEvent(event);
     }
+}
+
+void ChartWidget::wheelEvent(QWheelEvent* event) {
+    Show_Reading({});
+    ChartPlot::wheelEvent(event);
+}
+
+void ChartWidget::resizeEvent(QResizeEvent* event) {
+    Show_Reading({});
+    ChartPlot::resizeEvent(event);
+}
+
+void ChartWidget::paintEvent(QPaintEvent* event) {
+    QCPPainter painter(this);
+    // On paper as lines and texts, not as the picture that stands on the screen.
+    if (painter.paintEngine()->type() == QPaintEngine::Pdf) return Paint(painter, size());
+    painter.end();
+    ChartPlot::paintEvent(event);
+    Mark_Focus(*this);
 }
 
 void ChartWidget::leaveEvent(QEvent* event) {

@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "rendering/chart_plot.h"
 
@@ -41,6 +42,9 @@ class ChartWidget : public ChartPlot {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
@@ -49,6 +53,8 @@ class ChartWidget : public ChartPlot {
     /// The next point along the curve, or the next curve.
     void Move_Reading(int points, int sets);
     void Zoom(double factor);
+    void Reset_View();
+    std::vector<std::size_t> Drawn_Sets() const;
 
     QCPItemEllipse* mark_;
     QCPItemText* words_;

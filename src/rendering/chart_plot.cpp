@@ -152,6 +152,7 @@ ChartPlot::ChartPlot(QWidget* parent)
     setLocale(plain);
     setNoAntialiasingOnDrag(false);
     addLayer(kMaskLayer, layer("main"));
+    // Owned by the chart.
     new Mask(*this);
     legend->setBorderPen(Qt::NoPen);
     legend->setBrush(Qt::NoBrush);

@@ -3,8 +3,8 @@
 #include "qt/chart_widget.h"
 
 #include <QImage>
-#include <QSignalSpy>
 #include <QTest>
+#include <algorithm>
 #include <cmath>
 
 #include "qt/binder.h"
@@ -295,6 +295,33 @@ TEST_F(ChartWidgetTest, ArrowKeysReadAlongTheCurves) {
     EXPECT_EQ(widget.accessibleDescription(), "set 2\np1:  22");
     for (int i = 0; i < 5; ++i) QTest::keyClick(&widget, Qt::Key_Right);
     EXPECT_EQ(widget.Shown_Reading()->point, 2U);
+}
+
+TEST_F(ChartWidgetTest, SetsThatWereNeverFilledAreNeitherDrawnNorRead) {
+    Chart chart = Filled(2, 3);
+    chart.Put_NumSets(4);
+    Show(chart.look);
+    EXPECT_EQ(widget.graphCount(), 2);
+    EXPECT_EQ(widget.legend->itemCount(), 2);
+    EXPECT_GT(widget.View().y_low, 0) << "their zeros do not count";
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Down}) QTest::keyClick(&widget, key);
+    EXPECT_EQ(*widget.Shown_Reading(), (ChartWidget::Reading{0, 0}));
+    Show(ChartLook());
+    QTest::keyClick(&widget, Qt::Key_Right);
+    EXPECT_FALSE(widget.Shown_Reading());
+}
+
+TEST_F(ChartWidgetTest, AReadingBesideTheViewShowsTheWhole) {
+    Show(Filled(1, 100).look);
+    widget.xAxis->setRange(20, 30);
+    QTest::keyClick(&widget, Qt::Key_Right);
+    EXPECT_TRUE(widget.Shows_Whole());
+    EXPECT_EQ(*widget.Shown_Reading(), (ChartWidget::Reading{0, 0}));
+    QTest::keyClick(&widget, Qt::Key_Plus);
+    EXPECT_FALSE(widget.Shown_Reading());
+    EXPECT_FALSE(widget.Shows_Whole());
+    QTest::keyClick(&widget, Qt::Key_0);
+    EXPECT_TRUE(widget.Shows_Whole());
 }
 
 TEST_F(ChartWidgetTest, AClickIsAClickAndADragIsNone) {
