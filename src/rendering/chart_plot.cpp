@@ -362,6 +362,7 @@ void ChartPlot::Fit(QSize size) {
     const int item =
         widest + kLegendIcon.width() + legend->iconTextPadding() + legend->columnSpacing() + kGap;
     legend->setWrap(std::max(1, (size.width() - 2 * kGap) / item));
+    legend->setFillOrder(QCPLegend::foColumnsFirst, true);
 
     const QFontMetrics numbers(xAxis->tickLabelFont());
     int label = 1;

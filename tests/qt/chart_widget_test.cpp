@@ -224,6 +224,22 @@ TEST_F(ChartWidgetTest, TitlesStandInTheirFonts) {
     EXPECT_NEAR(widget.xAxis->labelFont().pixelSize(), 2 * small, 1);
 }
 
+TEST_F(ChartWidgetTest, TheLegendTakesMoreRowsWhereTheChartIsNarrow) {
+    Chart chart = Filled(6, 3);
+    for (ChartSet& set : chart.look.sets) set.LegendText = "Accel CP-1 Mag in/sec^2";
+    widget.resize(1600, 400);
+    Show(chart.look);
+    EXPECT_EQ(widget.legend->rowCount(), 1);
+    widget.resize(500, 400);
+    QTest::qWait(1);
+    widget.replot();
+    EXPECT_GE(widget.legend->rowCount(), 2);
+    EXPECT_TRUE(widget.rect().contains(widget.legend->outerRect()));
+    for (int i = 0; i < widget.legend->itemCount(); ++i)
+        EXPECT_GE(widget.legend->item(i)->outerRect().width(),
+                  widget.legend->item(i)->minimumOuterSizeHint().width());
+}
+
 TEST_F(ChartWidgetTest, APolarChartPutsItsPointsInThePlaneInTrueShape) {
     Chart chart = Filled(1, 4);
     chart.look.polar = true;
