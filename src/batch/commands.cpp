@@ -24,7 +24,11 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Drive_Command,
     Export_Command,
     Draw_Command,
+    Animate_Command,
+    Dxf_Command,
     Plot_Command,
+    Compare_Command,
+    Report_Command,
 });
 
 int Run_Chosen(const CLI::App& app, const std::vector<Command>& commands, Console& console) {

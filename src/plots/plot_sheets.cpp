@@ -57,7 +57,7 @@ void Add_Foot(Sheet& sheet, const OwnPlotView& form, std::size_t i, const SheetB
     const double top = picture.top + picture.height + kLine;
     sheet.texts.push_back({{picture.left, top, picture.width, kLine}, form.lbl_BottomTitle[i].caption});
     const std::string extremes = "Min " + form.lbl_Min[i].caption + "    Max " + form.lbl_Max[i].caption +
-                                 "    Peak to Peak " + form.lbl_Peak[i].caption;
+                                 "    Range " + form.lbl_Peak[i].caption;
     sheet.texts.push_back({{picture.left, top, picture.width, kLine}, extremes, TextSide::Right, kSmall});
 }
 
@@ -129,11 +129,15 @@ std::string Plot_Values(Program& program, const SlotLabels& labels, std::int16_t
         text +=
             '\t' + Slot_Caption(labels.lbl_Function, slot) + ' ' + Slot_Caption(labels.lbl_Component, slot);
     text += '\n';
+    std::int16_t& current = program.selections.SelCurrent;
+    const std::int16_t left = current;
     for (std::int16_t index = 0; index <= Last_Row(program); ++index) {
         text += Exact_Abscissa(program, index);
-        for (std::int16_t k = 1; k <= count; ++k) text += '\t' + Plain_Number(Value_At(program, index, k));
+        for (current = 1; current <= count; ++current)
+            text += '\t' + Plain_Number(Value_At(program, index, current));
         text += '\n';
     }
+    current = left;
     return text;
 }
 

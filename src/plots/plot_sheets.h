@@ -29,7 +29,8 @@ Sheet Own_Plot_Sheet(const OwnPlotView& form, std::int16_t plots, std::size_t fi
 Sheet Polar_Plot_Sheet(const PolarPlotView& form, const PictureList& picture, PageSize size);
 
 /// The first `count` selected functions as a text that spreadsheets take: a line of titles, then one for each
-/// step or harmonic. Columns are parted by tabs; numbers read back to the same single.
+/// step or harmonic. Columns are parted by tabs; numbers read back to the same single. `SelCurrent` is left
+/// as it was: tables turn local frames by it.
 std::string Plot_Values(Program& program, const SlotLabels& labels, std::int16_t count);
 /// The tips of the polar plot that was drawn last, in the same form: x and y.
 std::string Polar_Plot_Values(const Program& program);

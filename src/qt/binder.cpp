@@ -45,10 +45,6 @@ bool Is_Passing(const QEvent& event) {
            reason == Qt::MenuBarFocusReason;
 }
 
-bool Works(const Control& control) {
-    return control.enabled && control.unavailable.empty();
-}
-
 void Colour_Text(QWidget& widget, Colour colour) {
     const QColor shown(colour.red, colour.green, colour.blue);
     QPalette palette = widget.palette();
@@ -93,16 +89,15 @@ Widget* Binder::Take(const std::string& name) {
 
 template <class Widget>
 void Binder::Push_Common(Widget& widget, const Control& control) const {
-    widget.setEnabled(Works(control));
+    widget.setEnabled(control.enabled);
     widget.setVisible(control.visible);
-    if (!control.unavailable.empty()) widget.setToolTip(Qt_Text(control.unavailable));
 }
 
 void Binder::Act(const Control& control, const Event& event) {
     if (pushing_) return;
     Leave_Field();
     // Leaving the field may have taken the control away.
-    if (Works(control)) run_(event);
+    if (control.enabled) run_(event);
 }
 
 void Binder::Add(const std::string& name, Label& label) {
@@ -278,12 +273,14 @@ void Binder::Add(const std::string& name, Chart& chart) {
 }
 
 void Binder::Add(const std::string& name, ComboBox& box) {
-    if (auto* list = form_.findChild<PickList*>(Qt_Text(name))) {
+    // Searching by type would take every box of the toolkit for one of ours.
+    auto* found = form_.findChild<QWidget*>(Qt_Text(name));
+    if (auto* list = dynamic_cast<PickList*>(found)) {
         names_.insert(name);
         list->picked_twice = Picking(box, &ComboBox::double_click);
         return Push_List(*list, box);
     }
-    if (auto* choice = form_.findChild<ChoiceBox*>(Qt_Text(name))) {
+    if (auto* choice = dynamic_cast<ChoiceBox*>(found)) {
         names_.insert(name);
         choice->typed = [&box](const std::string& text) { box.text = text; };
         return Push_List(*choice, box);
@@ -350,6 +347,7 @@ void Binder::Push() {
 void Binder::Leave_Field() {
     if (entered_.record == nullptr || pushing_) return;
     const Field left = std::exchange(entered_, {});
+    typed_ = left.record->put_value ? nullptr : left.record;
     run_(left.record->lost_focus);
 }
 
@@ -362,6 +360,9 @@ void Binder::Set_Focus(std::string_view name) {
     widget->setFocus(Qt::OtherFocusReason);
     placing_ = false;
     if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
+    // What was put in the place of a refused entry counts as entered.
+    for (const Field& field : fields_)
+        if (field.widget == widget && field.record == typed_ && field.record->put_value) entered_ = field;
 }
 
 bool Binder::Field_Event(const Field& field, QEvent* event) {

@@ -97,6 +97,7 @@ class Binder : public QObject {
     std::vector<std::function<void()>> pushes_;
     std::vector<Field> fields_;
     Field entered_;
+    const TextField* typed_ = nullptr;  ///< the field that was left last, if it was left as typed
     bool pushing_ = false;
     bool placing_ = false;     ///< the program moves the focus
     bool clicked_in_ = false;  ///< the mouse button that brought a field the focus is still down

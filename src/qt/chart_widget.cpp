@@ -61,6 +61,13 @@ void ChartWidget::Show(const ChartLook& look) {
                                  .trimmed());
 }
 
+std::vector<std::size_t> ChartWidget::Drawn_Sets() const {
+    std::vector<std::size_t> drawn;
+    for (std::size_t set = 0; set < Look().sets.size(); ++set)
+        if (Look().sets[set].filled) drawn.push_back(set);
+    return drawn;
+}
+
 std::optional<ChartWidget::Reading> ChartWidget::Nearest(QPointF place) const {
     if (!axisRect()->rect().contains(place.toPoint())) return {};
     std::optional<Reading> nearest;
@@ -150,24 +157,16 @@ void ChartWidget::Reset_View() {
     replot(rpQueuedReplot);
 }
 
-std::vector<std::size_t> ChartWidget::Drawn_Sets() const {
-    std::vector<std::size_t> drawn;
-    for (std::size_t set = 0; set < Look().sets.size(); ++set)
-        if (Look().sets[set].filled) drawn.push_back(set);
-    return drawn;
-}
-
 void ChartWidget::Move_Reading(int points, int sets) {
     const std::vector<std::size_t> drawn = Drawn_Sets();
     if (drawn.empty()) return;
-    Reading next{drawn.front(), 0};
+    Reading next = reading_.value_or(Reading{drawn.front(), 0});
     if (reading_) {
-        const auto count = static_cast<int>(drawn.size());
-        const auto last = static_cast<int>(Look().LabelText.size()) - 1;
-        const auto now = std::find(drawn.begin(), drawn.end(), reading_->set) - drawn.begin();
-        next.set = drawn.at(static_cast<std::size_t>((static_cast<int>(now) + sets + count) % count));
-        next.point =
-            static_cast<std::size_t>(std::clamp(static_cast<int>(reading_->point) + points, 0, last));
+        const int last = static_cast<int>(Look().LabelText.size()) - 1,
+                  count = static_cast<int>(drawn.size());
+        const auto place = std::find(drawn.begin(), drawn.end(), next.set) - drawn.begin();
+        next.point = static_cast<std::size_t>(std::clamp(static_cast<int>(next.point) + points, 0, last));
+        next.set = drawn[static_cast<std::size_t>((static_cast<int>(place) + sets + count) % count)];
     }
     const QPointF at = Place(next.set, next.point);
     if (!xAxis->range().contains(at.x()) || !yAxis->range().contains(at.y())) Reset_View();

@@ -49,12 +49,12 @@ class ChartWidget : public ChartPlot {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    std::vector<std::size_t> Drawn_Sets() const;
     void Show_Reading(std::optional<Reading> reading);
-    /// The next point along the curve, or the next curve.
+    /// The next point along the curve, or the next curve; nothing where none is drawn.
     void Move_Reading(int points, int sets);
     void Zoom(double factor);
     void Reset_View();
-    std::vector<std::size_t> Drawn_Sets() const;
 
     QCPItemEllipse* mark_;
     QCPItemText* words_;

@@ -32,9 +32,14 @@ constexpr BoxRow kBoxes[] = {
      "How many harmonics are shown. At most half as many as there are data points.", true},
 };
 
-QGroupBox* New_Function() {
+QGroupBox* New_Named_Group(const char* name) {
     QGroupBox* group = New_Group({});
-    group->setObjectName("fra_Function1");
+    group->setObjectName(name);
+    return group;
+}
+
+QGroupBox* New_Function() {
+    QGroupBox* group = New_Named_Group("fra_Function1");
     QGridLayout* grid = New_Group_Grid(group);
     int row = 0;
     for (const BoxRow& names : kBoxes) {
@@ -55,15 +60,14 @@ QGroupBox* New_Function() {
     return group;
 }
 
-QGroupBox* New_Checks(const QString& title, const char* first, const char* first_tip, const char* second,
+QGroupBox* New_Checks(const char* name, const char* first, const char* first_tip, const char* second,
                       const char* second_tip) {
-    QGroupBox* group = New_Group(title);
+    QGroupBox* group = New_Named_Group(name);
+    Keep_Room(group);
     QGridLayout* grid = New_Group_Grid(group);
     int row = 0;
-    for (QCheckBox* box : {New_Check(first, first_tip), New_Check(second, second_tip)}) {
-        Keep_Room(box);
+    for (QCheckBox* box : {New_Check(first, first_tip), New_Check(second, second_tip)})
         grid->addWidget(box, row++, 0);
-    }
     return group;
 }
 
@@ -71,10 +75,10 @@ QVBoxLayout* New_Side() {
     auto* column = new QVBoxLayout;
     column->setSpacing(kGap);
     column->addWidget(New_Function());
-    column->addWidget(New_Checks("Grid", "chk_HGrid", "Lines at the marks of the values.", "chk_VGrid",
+    column->addWidget(New_Checks("fra_Grid", "chk_HGrid", "Lines at the marks of the values.", "chk_VGrid",
                                  "Lines at the marks of the harmonics."));
-    column->addWidget(New_Checks("Style", "chk_Line", "Joins the tips of the spectral lines.", "chk_Sticks",
-                                 "A line from 0 for each harmonic."));
+    column->addWidget(New_Checks("fra_Style", "chk_Line", "Joins the tips of the spectral lines.",
+                                 "chk_Sticks", "A line from 0 for each harmonic."));
     QLabel* header = New_Label("lbl_Header");
     header->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     column->addWidget(header);

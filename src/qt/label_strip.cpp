@@ -9,8 +9,8 @@
 namespace kervol {
 namespace {
 
-/// As the labels of a plot may be.
-constexpr auto kWidest = "-1,000,000";
+/// As the labels of a plot usually are; room for them keeps the plots below each other in line.
+constexpr auto kUsual = "-10,000,000.";
 
 /// Where something of that size begins, about a middle but within the room.
 int Start(double middle, int size, int room) {
@@ -32,7 +32,9 @@ void LabelStrip::Add(QLabel* label, double share) {
 
 QSize LabelStrip::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
-    return {metrics.horizontalAdvance(kWidest) + 4, metrics.height()};
+    int widest = metrics.horizontalAdvance(kUsual);
+    for (const Place& place : places_) widest = std::max(widest, place.label->sizeHint().width());
+    return {widest + 4, metrics.height()};
 }
 
 void LabelStrip::resizeEvent(QResizeEvent* event) {
@@ -41,8 +43,11 @@ void LabelStrip::resizeEvent(QResizeEvent* event) {
 }
 
 bool LabelStrip::event(QEvent* event) {
-    // A label has another text.
-    if (event->type() == QEvent::LayoutRequest) Put_Labels();
+    // A label has another text; one that got it while it was hidden asked for nothing.
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) {
+        Put_Labels();
+        updateGeometry();
+    }
     return QWidget::event(event);
 }
 

@@ -109,13 +109,14 @@ QHBoxLayout* New_Plot_Title(std::size_t i) {
     return row;
 }
 
-/// The extremes of the function.
-QHBoxLayout* New_Extremes(std::size_t i) {
+/// The title of the abscissa, and the extremes. Two of them beside each other fit a screen of 1024 pixels.
+QHBoxLayout* New_Plot_Foot(std::size_t i) {
     auto* row = new QHBoxLayout;
-    row->setSpacing(kGap);
+    row->setSpacing(kGap - 2);
+    row->addWidget(New_Label(Indexed("lbl_BottomTitle", i)));
     row->addStretch();
     for (const auto& [caption, name] :
-         {std::pair("Min", "lbl_Min"), std::pair("Max", "lbl_Max"), std::pair("Peak to Peak", "lbl_Peak")}) {
+         {std::pair("Min", "lbl_Min"), std::pair("Max", "lbl_Max"), std::pair("Range", "lbl_Peak")}) {
         QLabel* title = New_Label({});
         title->setText(caption);
         title->setEnabled(false);
@@ -149,8 +150,7 @@ QGridLayout* New_Own_Plot(PictureList& list, const PlotMargins& margins, std::si
     grid->addWidget(up, 1, 0);
     grid->addWidget(New_Plot_Picture(list, PictureWidget::Fit::Filling, i), 1, 1);
     grid->addWidget(across, 2, 1);
-    grid->addWidget(New_Label(Indexed("lbl_BottomTitle", i)), 3, 1, Qt::AlignHCenter);
-    grid->addLayout(New_Extremes(i), 4, 1);
+    grid->addLayout(New_Plot_Foot(i), 3, 1);
     grid->setRowStretch(1, 1);
     grid->setColumnStretch(1, 1);
     return grid;

@@ -57,7 +57,8 @@ QGroupBox* New_Coordinates() {
 
 QVBoxLayout* New_State_Column() {
     auto* column = new QVBoxLayout;
-    column->setSpacing(kGap);
+    // With the options of a chart above them the parts just fit a screen of 768 lines.
+    column->setSpacing(kRowGap);
     QLabel* header = New_Label("lbl_Header");
     header->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     for (QWidget* part :

@@ -13,6 +13,8 @@ FFTScreen::FFTScreen() {
     cmb_Harmonics.text = "15";
     const std::array<const char*, graphs> columns = {"Real", "Img", "Mag", "Phs"};
     for (std::size_t graph = 0; graph < graphs; ++graph) lbl_Graph[graph].caption = columns[graph];
+    fra_Grid.caption = "Grid";
+    fra_Style.caption = "Style";
     chk_HGrid.caption = "Horiz";
     chk_VGrid.caption = "Vertic";
     chk_Line.caption = "Envelope";

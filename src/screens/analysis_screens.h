@@ -23,6 +23,7 @@ struct FFTScreen : GridStyleBoxes {
     Frame fra_Function1;
     Label lbl_Var1, lbl_Com1, lbl_Harmonics;
     ComboBox cmb_Var1, cmb_Com1, cmb_Harmonics;
+    Frame fra_Grid, fra_Style;  ///< around the check boxes
     std::array<Chart, graphs>
         grf_Plot;  ///< real and imaginary part, magnitude, phase in degrees, by harmonic
     std::array<Label, graphs> lbl_Graph;

@@ -83,6 +83,7 @@ void Visit_Controls(HomeScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(mnu_Open);
     KERVOL_CONTROL(mnu_Save);
     KERVOL_CONTROL(mnu_Saveas);
+    KERVOL_CONTROL(mnu_Report);
     KERVOL_CONTROL(mnu_Export);
     KERVOL_CONTROL(mnu_Export_Link_Data);
     KERVOL_CONTROL(mnu_Export_Torque);
@@ -393,8 +394,10 @@ void Visit_Controls(FFTScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(cmd_Clear1);
     KERVOL_CONTROL(lbl_Harmonics);
     KERVOL_CONTROL(cmb_Harmonics);
+    KERVOL_CONTROL(fra_Grid);
     KERVOL_CONTROL(chk_HGrid);
     KERVOL_CONTROL(chk_VGrid);
+    KERVOL_CONTROL(fra_Style);
     KERVOL_CONTROL(chk_Line);
     KERVOL_CONTROL(chk_Sticks);
     KERVOL_CONTROL(lbl_Graph);

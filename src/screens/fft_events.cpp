@@ -64,6 +64,11 @@ bool Check_Selection(Screens& screens) {
     return SelectionOK;
 }
 
+/// Shows the function, which titles what the transform is given to.
+void Put_Function(Screens& screens, const std::string& name) {
+    screens.frm_FFT.cmb_Var1.text = screens.program.fourier.FFTFunctionName = name;
+}
+
 void Set_FFT_Buttons(FFTScreen& screen, bool enabled) {
     for (Button* button : {&screen.cmd_Done, &screen.cmd_Print, &screen.cmd_Copy}) button->enabled = enabled;
 }
@@ -131,7 +136,7 @@ void cmd_Calc_Click(Screens& screens) {
     FFTScreen& screen = screens.frm_FFT;
     Read_Harmonics(screens);
     if (!Check_Harmonics(screens)) {
-        screen.cmb_Var1.text.clear();
+        Put_Function(screens, "");
         return;
     }
     // Deliberate: without a function too; what selection 1 last held is transformed then.
@@ -178,7 +183,7 @@ void cmd_Clear1_Click(Screens& screens) {
     Program& program = screens.program;
     FFTScreen& screen = screens.frm_FFT;
     screen.Loading = true;
-    screen.cmb_Var1.text.clear();
+    Put_Function(screens, "");
     FFT_Clear_Table(program, program.model.NumSteps);
     program.fourier.FFTReady = false;
     Replot(screens);
@@ -205,8 +210,8 @@ void cmd_Print_Click(Screens& screens) {
     FFTScreen& screen = screens.frm_FFT;
     if (!Confirm_Printing(port, ScreenId::frm_FFT)) return;
     const std::initializer_list<Control*> off_paper = {
-        &screen.cmd_Clear1, &screen.cmd_Calc,  &screen.cmd_Done,  &screen.cmd_Cancel, &screen.cmd_Print,
-        &screen.cmd_Copy,   &screen.chk_HGrid, &screen.chk_VGrid, &screen.chk_Line,   &screen.chk_Sticks};
+        &screen.cmd_Clear1, &screen.cmd_Calc, &screen.cmd_Done, &screen.cmd_Cancel,
+        &screen.cmd_Print,  &screen.cmd_Copy, &screen.fra_Grid, &screen.fra_Style};
     for (Control* control : off_paper) control->visible = false;
     Procedure(screens.program, "frm_FFT.PrintForm", [&] { port.Print_Screen(ScreenId::frm_FFT); });
     for (Control* control : off_paper) control->visible = true;
@@ -233,7 +238,7 @@ void FFT_Form_Activate(Screens& screens) {
     program.fourier.FFTReady = false;
     Set_FFT_Buttons(screen, false);
     Load_Variables(program, screen.cmb_Var1);
-    screen.cmb_Var1.text.clear();
+    Put_Function(screens, "");
     program.port.Set_Focus(ScreenId::frm_FFT, "cmb_Var1");
     program.fourier.NumPlots = FFTScreen::graphs;
     program.selections.PlotTypePick = 5;

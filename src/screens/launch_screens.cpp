@@ -90,10 +90,10 @@ void Quit_Form_Activate(Screens& screens) {
 #define CLOSES(button) [](const Screens& all) -> const Button& { return all.button; }
 #define ACTIVATES(form) [](Screens& all) { Selection_Form_Activate(all.program, all.form); }
 
-#define PLOTS_ON(form)                                                                                 \
-    {                                                                                                  \
-        ScreenId::form, #form, "Plot Screen", [](Screens& all) { Plot_Form_Activate(all, all.form); }, \
-            CLOSES(form.cmd_Replot)                                                                    \
+#define PLOTS_ON(form)                                                                      \
+    {                                                                                       \
+        ScreenId::form, #form, "", [](Screens& all) { Plot_Form_Activate(all, all.form); }, \
+            CLOSES(form.cmd_Replot)                                                         \
     }
 
 /// In the order of `ScreenId`.

@@ -41,6 +41,7 @@ struct HomeScreen {
 
     Button cmd_Input, cmd_Animate, cmd_Plot, cmd_Print, cmd_Dynamics, cmd_Flywheel, cmd_Quit;
     MenuItem mnu_file, mnu_New, mnu_Open, mnu_Save, mnu_Saveas, mnu_Quit;
+    MenuItem mnu_Report;
     MenuItem mnu_Export, mnu_Export_Link_Data, mnu_Export_Torque;
     MenuItem mnu_Import, mnu_Import_SVA, mnu_Import_Link2_Drive_Data;
     MenuItem mnu_Units;

@@ -184,7 +184,7 @@ TEST(Plot, AlignedPlotsTellTheExtremesOfEachFunction) {
     EXPECT_EQ(run.code, 0) << run.err;
     const std::string svg = Content_Of(folder / "a.svg");
     Expect_Well_Formed(svg);
-    EXPECT_EQ(Count(svg, "Peak to Peak"), 2);
+    EXPECT_EQ(Count(svg, "Range "), 2);
     EXPECT_EQ(Count(svg, ">360."), 2);
     const CommandRun one = Batch(
         {"plot", "--example", "watt", "--style", "aligned", "--function", "Omega3", "-o", folder / "b.svg"});

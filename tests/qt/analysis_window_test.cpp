@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include "dynamics/solve_forces.h"
 #include "kinematics/step_count.h"
@@ -50,6 +51,18 @@ TEST_F(AnalysisWindowTest, AFunctionIsPickedFromTheOpenListOnly) {
     });
 }
 
+TEST_F(AnalysisWindowTest, ALongListDropsDownBelowItsBox) {
+    In(ScreenId::frm_FFT, [](FormWindow& form) {
+        ChoiceBox& box = Box(form, "cmb_Var1");
+        ASSERT_GT(box.count(), 60);
+        box.showPopup();
+        const QWidget& list = *box.view()->window();
+        EXPECT_GE(list.y(), box.mapToGlobal(box.rect().bottomLeft()).y());
+        EXPECT_LE(list.geometry().bottom(), form.screen()->geometry().bottom());
+        box.hidePopup();
+    });
+}
+
 TEST_F(AnalysisWindowTest, TheWheelPicksNothing) {
     In(ScreenId::frm_FFT, [this](FormWindow& form) {
         Turn_Wheel(Box(form, "cmb_Com1"));
@@ -91,12 +104,14 @@ TEST_F(AnalysisWindowTest, EnterOnNoFunctionAsksForOneAndComesBack) {
         ChoiceBox& box = Box(form, "cmb_Var1");
         Answer_With_Enter();
         QTest::keyClick(&box, Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
         EXPECT_TRUE(box.hasFocus());
     });
 }
 
 TEST_F(AnalysisWindowTest, TheGraphsOfASpectrumShowTheRecords) {
     In(ScreenId::frm_FFT, [this](FormWindow& form) {
+        form.resize(1280, 800);
         screens.frm_FFT.cmb_Var1.text = "Theta3";
         port.Run(screens.frm_FFT.cmb_Var1.click);
         for (int graph = 0; graph < 4; ++graph) {
@@ -148,8 +163,34 @@ TEST_F(AnalysisWindowTest, ARefusedCoefficientComesBackAs005) {
         Type(form, "txt_Fluct", "0");
         Answer_With_Enter();
         QTest::keyClick(&Find<QLineEdit>(form, "txt_Fluct"), Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
         EXPECT_EQ(Find<QLineEdit>(form, "txt_Fluct").text(), "0.05");
         EXPECT_TRUE(Find<QLineEdit>(form, "txt_Fluct").hasFocus());
+    });
+}
+
+TEST_F(AnalysisWindowTest, WhatARefusalPutBackIsTakenWhenTheFieldIsLeftNext) {
+    // Fluctuates by 2 about 10.
+    auto& torque = program->tables.TorqueTable;
+    for (int step = 0; step <= program->model.NumSteps; ++step) torque(step, 0) = 10;
+    torque(7, 0) = 12;
+    torque(9, 0) = 8;
+    In(ScreenId::frm_Flywheel, [this](FormWindow& form) {
+        const auto& field = Find<QLineEdit>(form, "txt_Fluct");
+        const auto& maximum = Find<QLabel>(form, "lbl_Torque_1");
+        const auto leave = [&form] { Find<QPushButton>(form, "cmd_Cancel").setFocus(); };
+        Type(form, "txt_Fluct", "0.5");
+        leave();
+        EXPECT_EQ(maximum.text(), "11");
+        Type(form, "txt_Fluct", "-1");
+        Answer_With_Enter();
+        leave();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&form)) << "comes back behind the box";
+        EXPECT_EQ(field.text(), "0.05");
+        EXPECT_EQ(form.focusWidget(), &field);
+        EXPECT_EQ(maximum.text(), "11") << "still that of 0.5";
+        leave();
+        EXPECT_EQ(maximum.text(), "10.1");
     });
 }
 

@@ -2,6 +2,7 @@
 // The Fourier screen: its lists and checks, what runs the transform, what its graphs are given, and what is
 // left when it closes.
 #include "catalogue/lists.h"
+#include "catalogue/table_rows.h"
 #include "core/header.h"
 #include "screens/launch_screens.h"
 #include "screens/screens_fixture.h"
@@ -72,6 +73,8 @@ TEST_F(FFTScreenTest, HasItsTexts) {
     EXPECT_EQ(screen.lbl_Harmonics.caption, "No of Harmonics");
     EXPECT_EQ(screen.cmb_Harmonics.text, "15");
     EXPECT_EQ(screen.cmd_Clear1.caption, "&Clear");
+    EXPECT_EQ(screen.fra_Grid.caption, "Grid");
+    EXPECT_EQ(screen.fra_Style.caption, "Style");
     EXPECT_EQ(screen.chk_HGrid.caption, "Horiz");
     EXPECT_EQ(screen.chk_VGrid.caption, "Vertic");
     EXPECT_EQ(screen.chk_Line.caption, "Envelope");
@@ -174,6 +177,7 @@ TEST_F(FFTScreenTest, EachGraphShowsOneColumnByHarmonic) {
         EXPECT_EQ(chart.look.BottomTitle, "Harmonic Number");
         EXPECT_EQ(chart.look.GridStyle, 1);
         EXPECT_EQ(chart.look.GraphStyle, 4);
+        EXPECT_TRUE(chart.look.sticks) << "a line for each harmonic, not a fill";
         // 18 / 15 is 1.2, twice that 2.4.
         EXPECT_EQ(chart.look.TickEvery, 1);
         EXPECT_EQ(chart.look.LabelEvery, 2);
@@ -288,6 +292,22 @@ TEST_F(FFTScreenTest, NoHarmonicsEmptyTheFunctionWhereItIsCalculated) {
     EXPECT_EQ(Buttons_On(), "");
 }
 
+TEST_F(FFTScreenTest, ATransformIsTitledByWhatItsFieldShows) {
+    Open_And_Transform("Theta3");
+    EXPECT_EQ(Transform_Title(*program), "Fourier Transform of  Theta3");
+    // Refused: Omega4 is not what the table holds.
+    screen.cmb_Harmonics.text = "0";
+    Pick(screen.cmb_Var1, "Omega4");
+    Expect_Box(kNoHarmonics, Icon::Exclamation);
+    EXPECT_TRUE(fourier.FFTReady);
+    EXPECT_EQ(Transform_Title(*program), "Fourier Transform of  ");
+    Pick(screen.cmb_Harmonics, "9");
+    Expect_Box(kNoFunction, Icon::Question);
+    screen.cmd_Clear1.click();
+    Pick(screen.cmb_Com1, "X");
+    EXPECT_EQ(Transform_Title(*program), "Fourier Transform of  ");
+}
+
 TEST_F(FFTScreenTest, HarmonicsWithoutAFunctionAskForOne) {
     Open();
     port.trace.clear();
@@ -382,14 +402,15 @@ TEST_F(FFTScreenTest, PrintsWithoutItsButtons) {
     port.answers = {Answer::Yes};
     port.while_printing = [&] {
         EXPECT_FALSE(screen.cmd_Calc.visible);
-        EXPECT_FALSE(screen.chk_Line.visible);
+        EXPECT_FALSE(screen.fra_Style.visible);
+        EXPECT_FALSE(screen.fra_Grid.visible) << "no empty frame is left where its boxes are hidden";
         EXPECT_TRUE(screen.cmb_Var1.visible);
     };
     screen.cmd_Print.click();
     EXPECT_EQ(Take_Box().icon, Icon::Exclamation);
     EXPECT_THAT(port.printed, ElementsAre(ScreenId::frm_FFT));
     EXPECT_TRUE(screen.cmd_Calc.visible);
-    EXPECT_TRUE(screen.chk_Line.visible);
+    EXPECT_TRUE(screen.fra_Style.visible);
 }
 
 TEST_F(FFTScreenTest, CopySaysHowAndCopies) {

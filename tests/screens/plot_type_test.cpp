@@ -79,6 +79,14 @@ TEST_F(PlotType, BackLeadsHomeAndFromASelectionToTheKinds) {
     }
 }
 
+TEST_F(PlotType, AFaultOnTheWayBackNamesTheScreenThatWasLeft) {
+    port.opening[ScreenId::frm_PlotType] = [] { Raise(fault::OutOfMemory); };
+    for (const PlotSelectScreen* form : {&single, &two, &four, &polar}) {
+        form->cmd_Cancel.click();
+        Expect_Fault(7, std::string(Screen_Name(form->kind.screen)) + ".cmd_Cancel");
+    }
+}
+
 TEST_F(PlotType, CloseBoxesDoAsTheWayBack) {
     for (const ScreenId screen : {ScreenId::frm_PlotType, ScreenId::frm_PrintSelect, ScreenId::frm_PrintData})
         EXPECT_THAT(Trace_Of([&] { Close_Screen(*screens, screen); }),
