@@ -45,17 +45,6 @@ class LinkagePicture {
     AnimationSettings settings_;
 };
 
-/// Why the position that was asked for cannot be drawn; empty if it can.
-std::string Objection(const Program& program, const Arguments& arguments) {
-    const std::int16_t last = program.model.NumSteps;
-    const std::int16_t step = arguments.step.value_or(0);
-    if (arguments.all) return {};
-    if (step > last)
-        return "there is no step " + std::to_string(step) + "; the last one is " + std::to_string(last);
-    if (!program.tables.StepValid(step)) return "step " + std::to_string(step) + " does not assemble";
-    return {};
-}
-
 void Draw_Positions(Program& program, const Arguments& arguments, Picture& picture) {
     LinkagePicture linkage(program, picture);
     if (!arguments.all) return linkage.Draw(arguments.step.value_or(0));
@@ -69,8 +58,12 @@ int Draw(Console& console, const Arguments& arguments) {
     run.Calculate();
     if (run.Outcome() == GivenUp || run.Outcome() == Failed) return console.Close(run);
     Program& program = run.program();
-    const std::string objection = Objection(program, arguments);
-    if (!objection.empty()) return console.Complain(WrongUse, objection);
+    const std::int16_t step = arguments.step.value_or(0), last = program.model.NumSteps;
+    if (step > last)
+        return console.Complain(WrongUse, "there is no step " + std::to_string(step) + "; the last one is " +
+                                              std::to_string(last));
+    if (!arguments.all && !program.tables.StepValid(step))
+        return console.Complain(GivenUp, "step " + std::to_string(step) + " does not assemble");
 
     // Lines alone: this program writes them by itself.
     if (arguments.file.format == PictureFormat::Svg) {

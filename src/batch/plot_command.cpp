@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The command that plots chosen output functions.
+#include <algorithm>
 #include <array>
+#include <charconv>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "batch/commands.h"
 #include "batch/output_table.h"
@@ -33,15 +36,20 @@ struct PixelSize {
     int width = 0, height = 0;
 };
 
+/// The number that the text is as a whole; 0 for anything else.
+int Whole_Number(std::string_view text) {
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() ? number : 0;
+}
+
 /// Of "WIDTHxHEIGHT"; nothing for anything else.
-std::optional<PixelSize> Pixel_Size(const std::string& text) {
-    const std::size_t cross = text.find('x');
-    if (cross == std::string::npos) return std::nullopt;
-    PixelSize size;
-    const bool read = CLI::detail::lexical_cast(text.substr(0, cross), size.width) &&
-                      CLI::detail::lexical_cast(text.substr(cross + 1), size.height);
+std::optional<PixelSize> Pixel_Size(std::string_view text) {
+    const std::size_t cross = std::min(text.find('x'), text.size());
+    const PixelSize size = {Whole_Number(text.substr(0, cross)),
+                            Whole_Number(text.substr(std::min(cross + 1, text.size())))};
     const auto fits = [](int side) { return side >= LeastSide && side <= LargestSide; };
-    return read && fits(size.width) && fits(size.height) ? std::optional(size) : std::nullopt;
+    return fits(size.width) && fits(size.height) ? std::optional(size) : std::nullopt;
 }
 
 /// What `frm_PlotType` would have been asked for.

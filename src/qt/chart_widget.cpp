@@ -142,13 +142,18 @@ void ChartWidget::mouseReleaseEvent(QMouseEvent* event) {
 
 void ChartWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     ChartPlot::mouseDoubleClickEvent(event);
-    Show_Whole();
-    Show_Reading({});
-    replot(rpQueuedReplot);
+    Reset_View();
 }
 
 void ChartWidget::Zoom(double factor) {
+    Show_Reading({});
     for (QCPAxis* axis : {xAxis, yAxis}) axis->scaleRange(factor);
+    replot(rpQueuedReplot);
+}
+
+void ChartWidget::Reset_View() {
+    Show_Reading({});
+    Show_Whole();
     replot(rpQueuedReplot);
 }
 
@@ -163,6 +168,8 @@ void ChartWidget::Move_Reading(int points, int sets) {
         next.point = static_cast<std::size_t>(std::clamp(static_cast<int>(next.point) + points, 0, last));
         next.set = drawn[static_cast<std::size_t>((static_cast<int>(place) + sets + count) % count)];
     }
+    const QPointF at = Place(next.set, next.point);
+    if (!xAxis->range().contains(at.x()) || !yAxis->range().contains(at.y())) Reset_View();
     Show_Reading(next);
     setAccessibleDescription(Words(next));
 }
@@ -182,11 +189,29 @@ void ChartWidget::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Minus:
             return Zoom(1 / kKeyZoom);
         case Qt::Key_0:
-            Show_Whole();
-            return replot(rpQueuedReplot);
+            return Reset_View();
         default:
             ChartPlot::keyPressEvent(event);
     }
+}
+
+void ChartWidget::wheelEvent(QWheelEvent* event) {
+    Show_Reading({});
+    ChartPlot::wheelEvent(event);
+}
+
+void ChartWidget::resizeEvent(QResizeEvent* event) {
+    Show_Reading({});
+    ChartPlot::resizeEvent(event);
+}
+
+void ChartWidget::paintEvent(QPaintEvent* event) {
+    QCPPainter painter(this);
+    // On paper as lines and texts, not as the picture that stands on the screen.
+    if (painter.paintEngine()->type() == QPaintEngine::Pdf) return Paint(painter, size());
+    painter.end();
+    ChartPlot::paintEvent(event);
+    Mark_Focus(*this);
 }
 
 void ChartWidget::leaveEvent(QEvent* event) {

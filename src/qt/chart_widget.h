@@ -42,6 +42,9 @@ class ChartWidget : public ChartPlot {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
@@ -51,6 +54,7 @@ class ChartWidget : public ChartPlot {
     /// The next point along the curve, or the next curve; nothing where none is drawn.
     void Move_Reading(int points, int sets);
     void Zoom(double factor);
+    void Reset_View();
 
     QCPItemEllipse* mark_;
     QCPItemText* words_;

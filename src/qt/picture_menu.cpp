@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QPainter>
 #include <utility>
 
 #include "qt/binder.h"
@@ -42,6 +43,13 @@ void Offer_Picture_Menu(QWidget& picture, PictureMenu menu) {
     }
     QObject::connect(save, &QAction::triggered, &picture,
                      [&picture, menu = std::move(menu)] { Save(picture, menu); });
+}
+
+void Mark_Focus(QWidget& picture) {
+    if (!picture.hasFocus()) return;
+    QPainter painter(&picture);
+    painter.setPen(picture.palette().color(QPalette::Highlight));
+    painter.drawRect(picture.rect().adjusted(0, 0, -1, -1));
 }
 
 }  // namespace kervol

@@ -16,8 +16,11 @@ struct PictureMenu {
     std::function<std::string()> values;  ///< what is copied; empty where there are no values
 };
 
-/// "Save picture as..." and "Copy values", by the mouse or the menu key. A menu that the picture has already
-/// is replaced.
+/// "Save picture as..." and "Copy values", by the mouse, or by the menu key where the picture has the focus.
+/// A menu that it has already is replaced.
 void Offer_Picture_Menu(QWidget& picture, PictureMenu menu);
+
+/// A line around a picture that has the focus; for the end of its painting.
+void Mark_Focus(QWidget& picture);
 
 }  // namespace kervol

@@ -51,6 +51,8 @@ void PictureWidget::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), Qt_Colour(list_.Background()));
     painter.setRenderHint(QPainter::Antialiasing);
     Paint_Strokes(painter, list_.Strokes(), list_.Window(), Window_Place(), rect());
+    painter.end();
+    Mark_Focus(*this);
 }
 
 }  // namespace kervol

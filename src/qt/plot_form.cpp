@@ -218,7 +218,7 @@ void Lay_Out_Charts(FormWindow& form, const PlotKind& kind) {
                       New_Check("chk_Sticks", "Fills down to 0; of a spectrum, a line for each harmonic.")}),
          New_Choices("Background", {New_Option("opt_Back_0", "White background", "For print."),
                                     New_Option("opt_Back_1", "Tinted background", "For the screen.")})});
-    form.first_focus = form.findChild<QWidget*>("grf_Plot_0");
+    form.first_focus = form.findChild<QWidget*>(kind.plain_names ? "cmd_Done" : "cmd_PlotDone");
 }
 
 void Lay_Out_Own_Plots(FormWindow& form, const PlotKind& kind, std::span<PictureList> pictures) {

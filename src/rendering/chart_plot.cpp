@@ -4,19 +4,15 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <utility>
 
+#include "rendering/chart_extent.h"
 #include "rendering/point_ticker.h"
 
 namespace kervol {
 namespace {
 
 constexpr double kPen = 1.6, kThickPen = 2.8, kThinPen = 1.0, kGridPen = 1.0;  // logical pixels
-constexpr double kMargin = 0.05;       // of the extent, on either side
-constexpr double kPointMargin = 0.01;  // the same along the points
-/// Values that differ by less only differ by their rounding.
-constexpr double kFlat = 2e-6;
 constexpr double kTitleSize = 1.25;
 constexpr int kFillAlpha = 70;
 constexpr QSize kLegendIcon(38, 12);
@@ -92,48 +88,6 @@ bool Has_Lines(const ChartLook& look) {
     return look.GraphStyle != 4;
 }
 
-bool Has_Fills(const ChartLook& look) {
-    return look.GraphStyle == 4 || look.GraphStyle == 6;
-}
-
-struct Extent {
-    double low = std::numeric_limits<double>::infinity();
-    double high = -std::numeric_limits<double>::infinity();
-
-    void Take(double value) {
-        if (!std::isfinite(value)) return;
-        low = std::min(low, value);
-        high = std::max(high, value);
-    }
-    /// With a margin; about one value, or none, a range that can be drawn.
-    void Widen(double share) {
-        if (low > high) low = high = 0;
-        const double size = std::max(std::abs(low), std::abs(high));
-        const double room = high - low > kFlat * size ? share * (high - low) : (size > 0 ? 0.1 * size : 1.0);
-        low -= room;
-        high += room;
-    }
-};
-
-PlaneView Whole_View(const ChartLook& look) {
-    Extent x, y;
-    if (!look.polar && Has_Fills(look)) y.Take(0);
-    for (const ChartSet& set : look.sets) {
-        if (!set.filled) continue;
-        for (const float value : set.GraphData) y.Take(double(value));
-        if (look.polar)
-            for (const float value : set.XPosData) x.Take(double(value));
-    }
-    y.Widen(kMargin);
-    if (look.polar) {
-        x.Widen(kMargin);
-        return {x.low, x.high, y.low, y.high};
-    }
-    const double last = double(look.LabelText.size()) - 1;
-    const double margin = last > 0 ? kPointMargin * last : 0.5;
-    return {-margin, last + margin, y.low, y.high};
-}
-
 bool Same_Points(const ChartLook& one, const ChartLook& other) {
     return one.polar == other.polar && std::equal(one.sets.begin(), one.sets.end(), other.sets.begin(),
                                                   other.sets.end(), [](const ChartSet& a, const ChartSet& b) {
@@ -152,6 +106,7 @@ ChartPlot::ChartPlot(QWidget* parent)
     setLocale(plain);
     setNoAntialiasingOnDrag(false);
     addLayer(kMaskLayer, layer("main"));
+    // Owned by the chart.
     new Mask(*this);
     legend->setBorderPen(Qt::NoPen);
     legend->setBrush(Qt::NoBrush);
@@ -407,6 +362,7 @@ void ChartPlot::Fit(QSize size) {
     const int item =
         widest + kLegendIcon.width() + legend->iconTextPadding() + legend->columnSpacing() + kGap;
     legend->setWrap(std::max(1, (size.width() - 2 * kGap) / item));
+    legend->setFillOrder(QCPLegend::foColumnsFirst, true);
 
     const QFontMetrics numbers(xAxis->tickLabelFont());
     int label = 1;

@@ -109,14 +109,14 @@ TEST(Draw, KeepsWhatItOverwrites) {
     EXPECT_EQ(Content_Of(folder / "a.png~"), "earlier");
 }
 
-TEST(Draw, APositionThatIsNotThereIsWrongUseAndWritesNothing) {
+TEST(Draw, APositionThatIsNotThereIsToldAndWritesNothing) {
     const TemporaryFolder folder;
     const CommandRun behind = Batch({"draw", "--example", "watt", "--step", "37", "-o", folder / "a.svg"});
     EXPECT_EQ(behind.code, 1);
     EXPECT_EQ(behind.err, "kervol-batch: there is no step 37; the last one is 36\n");
     const std::string model = Long_Crank_File(folder);
     const CommandRun failed = Batch({"draw", model, "--step", "10", "-o", folder / "a.svg"});
-    EXPECT_EQ(failed.code, 1);
+    EXPECT_EQ(failed.code, 4);
     EXPECT_EQ(failed.err, "kervol-batch: step 10 does not assemble\n");
     EXPECT_FALSE(std::filesystem::exists(folder / "a.svg"));
     const CommandRun others = Batch({"draw", model, "--all", "-o", folder / "a.svg"});
@@ -229,6 +229,9 @@ TEST(Plot, RefusesWrongWordsInOneLine) {
               "Omega3"},
              {"plot", "--example", "watt", "-o", folder / "a.svg", "--size", "300", "--function", "Omega3"},
              {"plot", "--example", "watt", "-o", folder / "a.svg", "--size", "0x0", "--function", "Omega3"},
+             {"plot", "--example", "watt", "-o", folder / "a.svg", "--size", "300x", "--function", "Omega3"},
+             {"plot", "--example", "watt", "-o", folder / "a.svg", "--size", "300x200px", "--function",
+              "Omega3"},
              {"plot", "--example", "watt", "-o", folder / "a.svg", "--windows", "3", "--function", "Omega3"},
          }) {
         const CommandRun run = Batch(words);

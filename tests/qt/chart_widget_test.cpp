@@ -3,8 +3,8 @@
 #include "qt/chart_widget.h"
 
 #include <QImage>
-#include <QSignalSpy>
 #include <QTest>
+#include <algorithm>
 #include <cmath>
 
 #include "qt/binder.h"
@@ -224,6 +224,22 @@ TEST_F(ChartWidgetTest, TitlesStandInTheirFonts) {
     EXPECT_NEAR(widget.xAxis->labelFont().pixelSize(), 2 * small, 1);
 }
 
+TEST_F(ChartWidgetTest, TheLegendTakesMoreRowsWhereTheChartIsNarrow) {
+    Chart chart = Filled(6, 3);
+    for (ChartSet& set : chart.look.sets) set.LegendText = "Accel CP-1 Mag in/sec^2";
+    widget.resize(1600, 400);
+    Show(chart.look);
+    EXPECT_EQ(widget.legend->rowCount(), 1);
+    widget.resize(500, 400);
+    QTest::qWait(1);
+    widget.replot();
+    EXPECT_GE(widget.legend->rowCount(), 2);
+    EXPECT_TRUE(widget.rect().contains(widget.legend->outerRect()));
+    for (int i = 0; i < widget.legend->itemCount(); ++i)
+        EXPECT_GE(widget.legend->item(i)->outerRect().width(),
+                  widget.legend->item(i)->minimumOuterSizeHint().width());
+}
+
 TEST_F(ChartWidgetTest, APolarChartPutsItsPointsInThePlaneInTrueShape) {
     Chart chart = Filled(1, 4);
     chart.look.polar = true;
@@ -311,6 +327,19 @@ TEST_F(ChartWidgetTest, ASetThatIsNotDrawnIsNotRead) {
     Show(empty.look);
     QTest::keyClick(&widget, Qt::Key_Right);
     EXPECT_EQ(widget.Shown_Reading(), std::nullopt);
+}
+
+TEST_F(ChartWidgetTest, AReadingBesideTheViewShowsTheWhole) {
+    Show(Filled(1, 100).look);
+    widget.xAxis->setRange(20, 30);
+    QTest::keyClick(&widget, Qt::Key_Right);
+    EXPECT_TRUE(widget.Shows_Whole());
+    EXPECT_EQ(*widget.Shown_Reading(), (ChartWidget::Reading{0, 0}));
+    QTest::keyClick(&widget, Qt::Key_Plus);
+    EXPECT_FALSE(widget.Shown_Reading());
+    EXPECT_FALSE(widget.Shows_Whole());
+    QTest::keyClick(&widget, Qt::Key_0);
+    EXPECT_TRUE(widget.Shows_Whole());
 }
 
 TEST_F(ChartWidgetTest, AClickIsAClickAndADragIsNone) {
