@@ -20,6 +20,10 @@ void Sum_Literally(const HarmonicSums& sums) {
     }
 }
 
+double Cut_Limit(float tiny) {
+    return (static_cast<double>(std::nextafter(tiny, 0.0F)) + static_cast<double>(tiny)) / 2;
+}
+
 bool Has_Four_Lanes() {
 #if defined(__x86_64__)
     return __builtin_cpu_supports("avx2") != 0;

@@ -32,6 +32,10 @@ void Sum_Literally(const HarmonicSums& sums);
 void Sum_Two(const HarmonicSums& sums);
 void Sum_Four(const HarmonicSums& sums);
 
+/// Doubles of this size and above are not below `tiny` once they are rounded to single: half-way between it
+/// and the single before it, where `tiny` has an even last bit.
+double Cut_Limit(float tiny);
+
 bool Has_Four_Lanes();
 /// The fastest way for this processor.
 SumHarmonics Fastest_Sums();

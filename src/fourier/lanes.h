@@ -101,13 +101,6 @@ struct LaneSums {
     }
 
   private:
-    /// Doubles of this size and above are not below `tiny` once they are rounded to single: half-way between
-    /// it and the single before it, where it has an even last bit.
-    static double Cut_Limit(float tiny) {
-        const auto before = std::bit_cast<float>(std::bit_cast<unsigned>(tiny) - 1U);
-        return (static_cast<double>(before) + static_cast<double>(tiny)) / 2;
-    }
-
     /// Cut to 0 where the sums are below the limit.
     static void Cut(Doubles& sum, double limit) {
         const auto small = (sum < limit) & (sum > -limit);
