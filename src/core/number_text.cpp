@@ -124,7 +124,8 @@ Float Parsed(std::string_view number) {
 }
 
 std::size_t Skip_Digits(std::string_view text, std::size_t at) {
-    return std::min(text.find_first_not_of("0123456789", at), text.size());
+    while (at < text.size() && text[at] >= '0' && text[at] <= '9') ++at;
+    return at;
 }
 
 }  // namespace

@@ -39,7 +39,9 @@ class ValueReader {
 
   private:
     void Begin_Value();
-    std::string_view Take_Until(std::string_view ends);
+    void Skip_Blanks();
+    /// Up to the next byte of one of these meanings; see the source.
+    std::string_view Take_Until(std::uint8_t ends);
     std::string_view Take_Number();
     void End_Value();
 
