@@ -23,6 +23,8 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Example_Command,
     Drive_Command,
     Export_Command,
+    Limits_Command,
+    Study_Command,
 });
 
 int Run_Chosen(const CLI::App& app, const std::vector<Command>& commands, Console& console) {

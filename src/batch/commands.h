@@ -25,5 +25,7 @@ Command Convert_Command(CLI::App& app);
 Command Example_Command(CLI::App& app);
 Command Drive_Command(CLI::App& app);
 Command Export_Command(CLI::App& app);
+Command Limits_Command(CLI::App& app);
+Command Study_Command(CLI::App& app);
 
 }  // namespace kervol
