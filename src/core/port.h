@@ -52,8 +52,17 @@ enum class ScreenId {
     frm_PlotSelect2,
     frm_PlotSelect3,
     frm_PlotSelect4,
+    frm_Plot1,
+    frm_Plot2,
+    frm_Plot3,
+    frm_Plot4,
+    frm_Myplot2,
+    frm_MyPlot3,
+    frm_MyPlot4,
     frm_PrintSelect,
     frm_PrintData,
+    frm_Flywheel,
+    frm_FFT,
     frm_Quit,
 };
 inline constexpr std::size_t NumScreens = static_cast<std::size_t>(ScreenId::frm_Quit) + 1;
