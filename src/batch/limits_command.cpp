@@ -76,6 +76,7 @@ void Put_Stage(JsonWriter& json, const LinkageModel& model, const StageLimits& s
     });
     Put_Transmission(json, "LeastTransmission", stage.least);
     Put_Transmission(json, "GreatestTransmission", stage.greatest);
+    Put_Transmission(json, "LeastTransmissionInDrive", stage.least_driven);
     json.End_Object();
 }
 

@@ -3,7 +3,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <limits>
+#include <tuple>
 
+#include "core/arithmetic.h"
+#include "core/constants.h"
 #include "study/crank_circle.h"
 
 namespace kervol {
@@ -76,6 +81,7 @@ class LimitFinder {
             Put_Obstacles(stage, found);
             Put_Dead_Centres(stage, found);
             Put_Transmission(stage, found);
+            Put_Driven(stage, found);
         }
         return limits;
     }
@@ -149,7 +155,7 @@ class LimitFinder {
         for (const Run& run : Joined([&](const Run& each) { return each.failing == number; })) {
             const Probe* worst = nullptr;
             for (const Probe& probe : positions_) {
-                if (!Holds(run, probe.crank) || !probe.stage[stage].distance) continue;
+                if (!Is_In(run, probe.crank) || !probe.stage[stage].distance) continue;
                 if (worst == nullptr || Margin(probe, stage) < Margin(*worst, stage)) worst = &probe;
             }
             if (worst == nullptr) continue;
@@ -162,7 +168,7 @@ class LimitFinder {
         }
     }
 
-    static bool Holds(const Run& run, double crank) {
+    static bool Is_In(const Run& run, double crank) {
         for (const double turn : {-kTurn, 0.0, kTurn})
             if (crank + turn >= run.from && crank + turn <= run.to) return true;
         return false;
@@ -187,23 +193,46 @@ class LimitFinder {
         }
     }
 
+    /// The least acute angle among the positions and near the one that has it, of those that count; with the
+    /// sign -1 the greatest.
+    std::optional<Transmission> Extreme(std::size_t stage, double sign, const Positions& positions,
+                                        const std::function<bool(const Probe&)>& counts) const {
+        const auto value = [&](const Probe& probe) {
+            return probe.stage[stage].closes && counts(probe) ? sign * probe.stage[stage].acute : kTurn;
+        };
+        const auto best =
+            std::min_element(positions.begin(), positions.end(),
+                             [&](const Probe& a, const Probe& b) { return value(a) < value(b); });
+        if (value(*best) >= kTurn) return std::nullopt;
+        const double step = kTurn / static_cast<double>(positions_.size());
+        const Probe refined = circle_.Least(best->crank - step, best->crank + step, value);
+        const Probe& chosen = value(refined) < value(*best) ? refined : *best;
+        return Transmission{chosen.stage[stage].acute, User(chosen.crank)};
+    }
+
     void Put_Transmission(std::size_t stage, StageLimits& found) const {
-        for (const double sign : {1.0, -1.0}) {
-            const auto value = [&](const Probe& probe) {
-                return probe.stage[stage].closes ? sign * probe.stage[stage].acute : kTurn;
-            };
-            const auto best =
-                std::min_element(positions_.begin(), positions_.end(),
-                                 [&](const Probe& a, const Probe& b) { return value(a) < value(b); });
-            if (!best->stage[stage].closes) return;
-            const double step = kTurn / static_cast<double>(positions_.size());
-            const Probe refined = circle_.Least(best->crank - step, best->crank + step, value);
-            const Probe& chosen = value(refined) < value(*best) ? refined : *best;
-            (sign > 0 ? found.least : found.greatest) = {chosen.stage[stage].acute, User(chosen.crank)};
-        }
+        const auto everywhere = [](const Probe&) { return true; };
+        found.least = Extreme(stage, 1, positions_, everywhere);
+        found.greatest = Extreme(stage, -1, positions_, everywhere);
         // A stage that reaches its limit is in line there.
         for (const Obstacle& obstacle : found.obstacles)
-            if (obstacle.why != Misfit::InLine) found.least = {0, Within_Turn(obstacle.range.from)};
+            if (found.least && obstacle.why != Misfit::InLine)
+                found.least = {0, Within_Turn(obstacle.range.from)};
+    }
+
+    void Put_Driven(std::size_t stage, StageLimits& found) const {
+        const auto drive = Driven_Range(model_);
+        if (!drive) return;
+        Positions positions = positions_;
+        for (const double end : {drive->from, drive->to})
+            positions.push_back(circle_.At(Within_Turn(end - model_.GroundAngleDeg)));
+        found.least_driven = Extreme(stage, 1, positions, [&](const Probe& probe) {
+            return Holds(*drive, probe.crank + model_.GroundAngleDeg);
+        });
+        for (const Obstacle& obstacle : found.obstacles)
+            for (const double end : {obstacle.range.from, obstacle.range.to})
+                if (found.least_driven && obstacle.why != Misfit::InLine && Holds(*drive, end))
+                    found.least_driven = {0, Within_Turn(end)};
     }
 
     const LinkageModel& model_;
@@ -216,6 +245,36 @@ class LimitFinder {
 
 bool Is_Full_Turn(const CrankRange& range) {
     return range.Width() >= kTurn - kResolution;
+}
+
+bool Holds(const CrankRange& range, double crank) {
+    const double beyond = Within_Turn(crank - range.from);
+    return Is_Full_Turn(range) || beyond <= range.Width() + kRounding || beyond >= kTurn - kRounding;
+}
+
+std::optional<CrankRange> Driven_Range(const LinkageModel& model) {
+    double low = model.Theta2One, high = low;
+    if (model.CalcMode == 2) {
+        const double speed = model.Omega2Start, acceleration = model.Alpha2Const;
+        const auto [first, last] = std::minmax({double(model.TimeStart), double(model.TimeEnd)});
+        const auto take = [&](double t) {
+            const double turned = (speed + acceleration * t / 2) * t * DegreesPerRadian + model.Theta2One;
+            low = std::min(low, turned);
+            high = std::max(high, turned);
+        };
+        low = std::numeric_limits<double>::infinity();
+        high = -low;
+        take(first);
+        take(last);
+        // There it turns back.
+        if (!Is_Zero(acceleration)) take(std::clamp(-speed / acceleration, first, last));
+    } else if (model.CalcMode == 3) {
+        std::tie(low, high) = std::minmax({double(model.ThetaMinDeg), double(model.ThetaMaxDeg)});
+    } else if (model.CalcMode != 1) {
+        return std::nullopt;
+    }
+    const double from = Within_Turn(low);
+    return CrankRange{from, from + std::min(high - low, kTurn)};
 }
 
 Limits Find_Limits(const LinkageModel& model) {

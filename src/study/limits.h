@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/model.h"
+#include "core/named_text.h"
 
 namespace kervol {
 
@@ -53,6 +54,7 @@ struct StageLimits {
     std::vector<Obstacle> obstacles;
     std::vector<DeadCentre> dead_centres;
     std::optional<Transmission> least, greatest;  ///< over the usable ranges
+    std::optional<Transmission> least_driven;     ///< over the part of them that the drive of the model takes
 };
 
 struct Limits {
@@ -66,20 +68,21 @@ Limits Find_Limits(const LinkageModel& model);
 
 /// Whether the range is all that the crank can turn.
 bool Is_Full_Turn(const CrankRange& range);
+/// Whether a crank angle lies in the range, whatever the turn.
+bool Holds(const CrankRange& range, double crank);
+
+/// The crank angles that the drive of the model takes, not rounded; nothing where the drive is imported,
+/// whose positions are no part of the model.
+std::optional<CrankRange> Driven_Range(const LinkageModel& model);
 
 /// What a designer should heed in limits whose other members are complete.
 std::vector<std::string> Limit_Warnings(const LinkageModel& model, const Limits& limits);
 
-/// Names that the texts need: the two links of a stage and the distance that they span.
-struct LoopNames {
-    const char* coupler;
-    const char* output;
-    const char* distance;
-};
-LoopNames Loop_Names(const LinkageModel& model, int stage);
-
 /// An obstacle in words, without its range: "links 3 and 4 together, 15.625 in, are too short for ...".
 std::string Obstacle_Text(const LinkageModel& model, const Obstacle& obstacle);
+
+/// What was found of a stage, 1 or 2, line by line.
+std::vector<NamedText> Stage_Lines(const LinkageModel& model, const StageLimits& found, int stage);
 
 /// The whole as lines of text.
 std::string Limits_Text(const LinkageModel& model, const Limits& limits);

@@ -46,50 +46,75 @@ std::string Length_Text(const LinkageModel& model, double length) {
     return Fixed(length, 3) + " " + model.UnitText(6);
 }
 
-/// Whether one of the ranges holds all crank angles between two.
-bool Holds_Drive(const std::vector<CrankRange>& ranges, double low, double high) {
-    return std::any_of(ranges.begin(), ranges.end(), [&](const CrankRange& range) {
-        if (Is_Full_Turn(range)) return true;
-        const double turns = std::floor((low - range.from) / kTurn) * kTurn;
-        return high - turns <= range.to;
-    });
-}
-
-void Put_Line(std::ostream& out, const std::string& label, const std::string& value) {
-    out << "  " << std::left << std::setw(kLabelWidth) << label << value << '\n';
-}
-
-void Put_Stage(std::ostream& out, const LinkageModel& model, const StageLimits& stage, int number) {
-    const LoopNames names = Loop_Names(model, number);
-    out << "\nStage " << number << '\n';
-    if (stage.usable.empty()) Put_Line(out, "Usable", "nowhere");
-    for (const CrankRange& range : stage.usable) Put_Line(out, "Usable", Range_Text(range));
-    for (const Obstacle& obstacle : stage.obstacles)
-        Put_Line(out, obstacle.why == Misfit::InLine ? "Indeterminate" : "Does not close",
-                 obstacle.why == Misfit::InLine
-                     ? "at " + Crank_Degrees(obstacle.at) + " deg: " + Obstacle_Text(model, obstacle)
-                     : Range_Text(obstacle.range) + ": " + Obstacle_Text(model, obstacle));
-    for (const DeadCentre& dead : stage.dead_centres)
-        Put_Line(out, "Dead centre",
-                 "at " + Crank_Degrees(dead.crank) + " deg: " + names.output + " turns back at " +
-                     Crank_Degrees(dead.output) + " deg");
-    if (stage.least)
-        Put_Line(out, "Transmission angle",
-                 Degrees(stage.least->angle) + " deg at " + Crank_Degrees(stage.least->crank) + " deg to " +
-                     Degrees(stage.greatest->angle) + " deg at " + Crank_Degrees(stage.greatest->crank) +
-                     " deg");
-}
-
-}  // namespace
+/// Names of the two links of a stage and of the distance that they span.
+struct LoopNames {
+    std::string coupler;
+    std::string output;
+    std::string distance;
+};
 
 LoopNames Loop_Names(const LinkageModel& model, int stage) {
     if (stage == 1) return {"link 3", "link 4", "A-O4"};
     return {"link 5", "link 6", model.LinkageType == "S" ? "C-O6" : "D-O6"};
 }
 
+std::string Transmission_Text(const Transmission& transmission) {
+    return Degrees(transmission.angle) + " deg at " + Crank_Degrees(transmission.crank) + " deg";
+}
+
+/// Whether one of the ranges holds all crank angles of the drive.
+bool Holds_All(const std::vector<CrankRange>& ranges, const CrankRange& drive) {
+    return std::any_of(ranges.begin(), ranges.end(), [&](const CrankRange& range) {
+        if (Is_Full_Turn(range)) return true;
+        const double turns = std::floor((drive.from - range.from) / kTurn) * kTurn;
+        return drive.to - turns <= range.to;
+    });
+}
+
+/// The drive as it was entered.
+std::string Drive_Name(const LinkageModel& model, const CrankRange& drive) {
+    if (model.CalcMode == 1) return "The position at " + Plain_Number(model.Theta2One) + " deg";
+    if (model.CalcMode == 2) return "The drive over time, " + Degrees(drive.Width()) + " deg of the crank,";
+    return "The drive from " + Plain_Number(model.ThetaMinDeg) + " to " + Plain_Number(model.ThetaMaxDeg) +
+           " deg";
+}
+
+using Warnings = std::vector<std::string>;
+
+void Warn_Of_Range(Warnings& warnings, const LinkageModel& model, const std::vector<CrankRange>& usable) {
+    if (!Is_Full_Turn(usable.front())) warnings.emplace_back("The crank cannot make a full turn.");
+    const auto drive = Driven_Range(model);
+    if (drive && !Holds_All(usable, *drive))
+        warnings.push_back(Drive_Name(model, *drive) + " leaves the usable range.");
+}
+
+void Warn_Of_Stage(Warnings& warnings, const LinkageModel& model, const StageLimits& found, int stage) {
+    const auto drive = Driven_Range(model);
+    const std::string name = "Stage " + std::to_string(stage);
+    const auto& least = drive ? found.least_driven : found.least;
+    if (least && least->angle < kPoorTransmission)
+        warnings.push_back("The transmission angle of " + name + " falls to " + Transmission_Text(*least) +
+                           "; below " + Plain_Number(kPoorTransmission) +
+                           " deg the pin forces grow and play is felt.");
+    std::string centres;
+    for (const DeadCentre& dead : found.dead_centres)
+        if (!drive || Holds(*drive, dead.crank))
+            centres += (centres.empty() ? "" : ", ") + Crank_Degrees(dead.crank);
+    if (!centres.empty())
+        warnings.push_back(name + " has dead centres in the drive, at " + centres + " deg: no load on " +
+                           Loop_Names(model, stage).output + " can turn the crank there.");
+    if (std::any_of(found.obstacles.begin(), found.obstacles.end(),
+                    [](const Obstacle& each) { return each.why == Misfit::InLine; }))
+        warnings.push_back(name +
+                           " passes a position where its links stand in line: it may go on in either "
+                           "assembly.");
+}
+
+}  // namespace
+
 std::string Obstacle_Text(const LinkageModel& model, const Obstacle& obstacle) {
     const LoopNames names = Loop_Names(model, obstacle.stage);
-    const std::string coupler = names.coupler, output = names.output;
+    const std::string &coupler = names.coupler, &output = names.output;
     const std::string reach = Length_Text(model, obstacle.reach);
     const std::string extreme =
         Length_Text(model, obstacle.distance) + " at " + Crank_Degrees(obstacle.at) + " deg";
@@ -111,42 +136,50 @@ std::string Obstacle_Text(const LinkageModel& model, const Obstacle& obstacle) {
 }
 
 std::vector<std::string> Limit_Warnings(const LinkageModel& model, const Limits& limits) {
-    std::vector<std::string> warnings;
     const auto& usable = limits.stages.back().usable;
     if (usable.empty()) return {"The linkage cannot be assembled at any position of the crank."};
-    if (!Is_Full_Turn(usable.front())) warnings.emplace_back("The crank cannot make a full turn.");
-    if (model.CalcMode == 3 && !Holds_Drive(usable, model.ThetaMinDeg, model.ThetaMaxDeg))
-        warnings.push_back("The drive from " + Plain_Number(model.ThetaMinDeg) + " to " +
-                           Plain_Number(model.ThetaMaxDeg) + " deg leaves the usable range.");
-    if (model.CalcMode == 1 && !Holds_Drive(usable, model.Theta2One, model.Theta2One))
-        warnings.push_back("The position at " + Plain_Number(model.Theta2One) +
-                           " deg is outside the usable range.");
+    Warnings warnings;
+    Warn_Of_Range(warnings, model, usable);
     int number = 0;
-    for (const StageLimits& stage : limits.stages) {
-        ++number;
-        if (stage.least && stage.least->angle < kPoorTransmission)
-            warnings.push_back("The transmission angle of Stage " + std::to_string(number) + " falls to " +
-                               Degrees(stage.least->angle) + " deg; below " +
-                               Plain_Number(kPoorTransmission) +
-                               " deg the pin forces grow and play is felt.");
-        const bool in_line = std::any_of(stage.obstacles.begin(), stage.obstacles.end(),
-                                         [](const Obstacle& o) { return o.why == Misfit::InLine; });
-        if (in_line)
-            warnings.push_back("Stage " + std::to_string(number) +
-                               " passes a position where its links stand in line: it may go on in either "
-                               "assembly.");
-    }
+    for (const StageLimits& stage : limits.stages) Warn_Of_Stage(warnings, model, stage, ++number);
     return warnings;
+}
+
+std::vector<NamedText> Stage_Lines(const LinkageModel& model, const StageLimits& found, int stage) {
+    std::vector<NamedText> lines;
+    if (found.usable.empty()) lines.push_back({"Usable", "nowhere"});
+    for (const CrankRange& range : found.usable) lines.push_back({"Usable", Range_Text(range)});
+    for (const Obstacle& obstacle : found.obstacles) {
+        const std::string why = ": " + Obstacle_Text(model, obstacle);
+        if (obstacle.why == Misfit::InLine)
+            lines.push_back({"Indeterminate", "at " + Crank_Degrees(obstacle.at) + " deg" + why});
+        else
+            lines.push_back({"Does not close", Range_Text(obstacle.range) + why});
+    }
+    for (const DeadCentre& dead : found.dead_centres)
+        lines.push_back({"Dead centre", "at " + Crank_Degrees(dead.crank) +
+                                            " deg: " + Loop_Names(model, stage).output + " turns back at " +
+                                            Crank_Degrees(dead.output) + " deg"});
+    if (!found.least) return lines;
+    lines.push_back({"Transmission angle",
+                     Transmission_Text(*found.least) + " to " + Transmission_Text(*found.greatest)});
+    const auto drive = Driven_Range(model);
+    if (found.least_driven && drive && !Is_Full_Turn(*drive))
+        lines.push_back({"Least in the drive", Transmission_Text(*found.least_driven)});
+    return lines;
 }
 
 std::string Limits_Text(const LinkageModel& model, const Limits& limits) {
     std::ostringstream out;
     out << (model.ModelTitle.empty() ? model.ModelName : model.ModelTitle)
         << "\n\nCrank angles as entered, in degrees. The transmission angle is the acute one between coupler "
-           "and "
-           "output.\n";
+           "and output.\n";
     int number = 0;
-    for (const StageLimits& stage : limits.stages) Put_Stage(out, model, stage, ++number);
+    for (const StageLimits& stage : limits.stages) {
+        out << "\nStage " << ++number << '\n';
+        for (const NamedText& line : Stage_Lines(model, stage, number))
+            out << "  " << std::left << std::setw(kLabelWidth) << line.name << line.text << '\n';
+    }
     if (!limits.warnings.empty()) out << "\nHeed\n";
     for (const std::string& warning : limits.warnings) out << "  " << warning << '\n';
     return out.str();

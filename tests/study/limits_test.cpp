@@ -207,6 +207,73 @@ TEST_F(LimitsTest, ADriveBeyondTheRangeIsWarnedOf) {
                 ::testing::Contains("The drive from -90 to 95 deg leaves the usable range."));
 }
 
+TEST_F(LimitsTest, TheDriveIsWhatTheModeMakesOfIt) {
+    model.CalcMode = 1;
+    model.Theta2One = -30;
+    EXPECT_NEAR(Driven_Range(model)->from, 330, 1e-9);
+    EXPECT_NEAR(Driven_Range(model)->Width(), 0, 1e-9);
+    model.CalcMode = 3;
+    model.ThetaMinDeg = 180;
+    model.ThetaMaxDeg = 900;
+    EXPECT_NEAR(Driven_Range(model)->from, 180, 1e-9);
+    EXPECT_NEAR(Driven_Range(model)->Width(), 360, 1e-9);
+    model.CalcMode = 4;
+    EXPECT_FALSE(Driven_Range(model));
+}
+
+/// Thrown up at 2 rad/s against 1 rad/s^2 from 10 degrees: 2 rad on it turns back, after 5 s it is 2.5 rad
+/// below the start.
+TEST_F(LimitsTest, ADriveOverTimeHoldsTheAngleAtWhichItTurnsBack) {
+    model.CalcMode = 2;
+    model.Theta2One = 10;
+    model.Omega2Start = 2;
+    model.Alpha2Const = -1;
+    model.TimeStart = 0;
+    model.TimeEnd = 5;
+    const CrankRange drive = Driven_Range(model).value();
+    EXPECT_NEAR(drive.from, 10 - Degrees(2.5) + 360, 1e-9);
+    EXPECT_NEAR(drive.Width(), Degrees(4.5), 1e-9);
+    EXPECT_TRUE(Holds(drive, 10 + Degrees(1.99)));
+    EXPECT_FALSE(Holds(drive, 10 + Degrees(2.01)));
+    EXPECT_TRUE(Holds(drive, 10 - Degrees(2.49)));
+    EXPECT_FALSE(Holds(drive, 10 - Degrees(2.51)));
+}
+
+/// Over A-O4 of length sqrt(12^2 + 9.375^2 - 2 12 9.375 cos 60) links 3 and 4 make the angle that they make
+/// at both ends of the drive; between them A is nearer to O4.
+TEST_F(LimitsTest, TheTransmissionAngleThatCountsIsThatWithinTheDrive) {
+    model.Link2 = 12;
+    model.ThetaMinDeg = -60;
+    model.ThetaMaxDeg = 60;
+    const Limits limits = Find_Limits(model);
+    const double distance = std::sqrt(12 * 12 + 9.375 * 9.375 - 12 * 9.375);
+    const double corner = Corner(distance, 8.625, 7);
+    const double nearest = Corner(12 - 9.375, 8.625, 7);
+    EXPECT_NEAR(limits.stages[0].least->angle, 0, 1e-9);
+    EXPECT_NEAR(limits.stages[0].least_driven->angle, std::min({corner, 180 - corner, nearest}), 0.01);
+    model.ThetaMaxDeg = 100;
+    EXPECT_NEAR(Find_Limits(model).stages[0].least_driven->angle, 0, 1e-9);
+    model.ThetaMinDeg = model.ThetaMaxDeg = 180;
+    EXPECT_FALSE(Find_Limits(model).stages[0].least_driven);
+}
+
+TEST_F(LimitsTest, OnlyWhatLiesInTheDriveIsWarnedOf) {
+    const auto centres = Find_Limits(model).stages[0].dead_centres;
+    ASSERT_THAT(centres, SizeIs(2));
+    EXPECT_THAT(Find_Limits(model).warnings,
+                ::testing::Contains(HasSubstr("Stage 1 has dead centres in the drive, at ")));
+    const auto at = static_cast<float>(centres[0].crank);
+    model.ThetaMinDeg = at + 1;
+    model.ThetaMaxDeg = at + 2;
+    EXPECT_THAT(Find_Limits(model).warnings,
+                ::testing::Not(::testing::Contains(HasSubstr("Stage 1 has dead centres"))));
+    model.ThetaMinDeg = at - 1;
+    EXPECT_THAT(Find_Limits(model).warnings, ::testing::Contains(HasSubstr("Stage 1 has dead centres")));
+    model.ThetaMinDeg = 0;
+    model.ThetaMaxDeg = 1;
+    EXPECT_THAT(Find_Limits(model).warnings, IsEmpty());
+}
+
 class LimitLaws : public LimitsTest, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(LimitLaws, RangesHoldExactlyTheAnglesThatTheSolutionCloses) {
