@@ -230,7 +230,7 @@ class LimitFinder {
             return Holds(*drive, probe.crank + model_.GroundAngleDeg);
         });
         for (const Obstacle& obstacle : found.obstacles)
-            for (const double end : {obstacle.range.from, obstacle.range.to})
+            for (const double end : {obstacle.range.to, obstacle.range.from})
                 if (found.least_driven && obstacle.why != Misfit::InLine && Holds(*drive, end))
                     found.least_driven = {0, Within_Turn(end)};
     }

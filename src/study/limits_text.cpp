@@ -161,7 +161,7 @@ std::vector<NamedText> Stage_Lines(const LinkageModel& model, const StageLimits&
                                             " deg: " + Loop_Names(model, stage).output + " turns back at " +
                                             Crank_Degrees(dead.output) + " deg"});
     if (!found.least) return lines;
-    lines.push_back({"Transmission angle",
+    lines.push_back({"Acute transmission angle",
                      Transmission_Text(*found.least) + " to " + Transmission_Text(*found.greatest)});
     const auto drive = Driven_Range(model);
     if (found.least_driven && drive && !Is_Full_Turn(*drive))

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstring>
 
+#include "core/geometry.h"
+#include "kinematics/examples.h"
 #include "kinematics/kinematics_fixture.h"
 #include "kinematics/step_count.h"
 #include "support/random_linkage.h"

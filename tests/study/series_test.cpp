@@ -36,9 +36,9 @@ TEST(Turns, AreFollowedOverAJump) {
     Values up = {350, 355, 0, 5, 355};
     Follow_Over_Turns(up);
     EXPECT_THAT(up, ::testing::ElementsAre(350, 355, 360, 365, 355));
-    Values down = {-170, 170, 100, -100};
+    Values down = {-170, 170, 100, -50};
     Follow_Over_Turns(down);
-    EXPECT_THAT(down, ::testing::ElementsAre(-170, -190, -260, -460));
+    EXPECT_THAT(down, ::testing::ElementsAre(-170, -190, -260, -410));
     Values still = {10, 100, 200, 30};
     Follow_Over_Turns(still);
     EXPECT_THAT(still, ::testing::ElementsAre(10, 100, 200, 30));

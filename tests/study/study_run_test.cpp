@@ -17,7 +17,7 @@ class StudyRunTest : public StudyTest {
     /// 11 times 21 combinations, of which those with a long crank fail.
     StudyPlan Cranks() {
         model.ThetaStepDeg = 30;
-        return Plan({"Link2=1:6:0.5", "Link5=6:8:0.1"}, {"max(Omega6)", "range(Theta6)"});
+        return Plan({"Link2=2:7:0.5", "Link5=6:8:0.1"}, {"max(Omega6)", "range(Theta6)"});
     }
     static double Value(const std::string& line, int field) {
         std::istringstream stream(line);

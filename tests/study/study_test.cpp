@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "core/geometry.h"
+#include "dynamics/crank_torque_areas.h"
 #include "dynamics/solve_forces.h"
 #include "kinematics/step_count.h"
 #include "study/study_fixture.h"
@@ -72,7 +73,7 @@ TEST_F(StudySolverTest, NumbersAreThoseOfTheWholeCalculation) {
 }
 
 TEST_F(StudySolverTest, NumbersAreThoseOfTheWholeCalculationInEveryDriveMode) {
-    for (const std::int16_t mode : {1, 2, 3, 4, 5}) {
+    for (std::int16_t mode = 1; mode <= 5; ++mode) {
         model.CalcMode = mode;
         model.NumSteps = 36;
         for (int step = 0; step <= 36; ++step) {
