@@ -16,7 +16,8 @@ std::string Panels(const LinkageModel& model) {
         ++number;
         text += Panel("Stage " + std::to_string(number), List_Table(Stage_Lines(model, stage, number)));
     }
-    if (!limits.warnings.empty()) text += Panel("To heed", Bullets(limits.warnings));
+    if (!limits.warnings.empty())
+        text += Element("div class=\"full\"", Panel("To heed", Bullets(limits.warnings)));
     return text;
 }
 
