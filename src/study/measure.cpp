@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 #include "catalogue/catalogue_table.h"
 #include "catalogue/preset_table.h"
@@ -46,8 +47,10 @@ std::string Without_Quotes(const std::string& text) {
 
 template <std::size_t N>
 std::int16_t Place_Of(const Table<std::string, N>& texts, const std::string& text) {
-    for (std::int16_t i = 1; i < static_cast<int>(N); ++i)
-        if (texts(i) == text && !text.empty()) return i;
+    static_assert(N <= std::numeric_limits<std::int16_t>::max());
+    for (std::size_t i = 1; i < N; ++i)
+        if (texts(static_cast<std::ptrdiff_t>(i)) == text && !text.empty())
+            return static_cast<std::int16_t>(i);
     return 0;
 }
 
@@ -89,7 +92,7 @@ std::string Measure::Parse(const std::string& text, const Program& program) {
 
     const std::string inside = whole.substr(whole.find('(') + 1, whole.size() - whole.find('(') - 2);
     const std::size_t comma = Find_Unquoted(inside, ",");
-    const std::string objection = Parse_Function(Trimmed(inside.substr(0, comma)), program);
+    std::string objection = Parse_Function(Trimmed(inside.substr(0, comma)), program);
     if (!objection.empty()) return objection;
     const bool has_tolerance = comma < inside.size();
     if (kind_ == Kind::dwell && !has_tolerance)
