@@ -87,7 +87,7 @@ class Queue {
         arrived_.notify_one();
     }
     /// Ends the run; an exception comes out of `Take`.
-    void End(std::exception_ptr exception = nullptr) {
+    void End(const std::exception_ptr& exception = nullptr) {
         const std::lock_guard lock(mutex_);
         ended_ = true;
         if (exception && !exception_) exception_ = exception;
