@@ -25,17 +25,21 @@ void One_Position(benchmark::State& state, const char* example) {
 BENCHMARK_CAPTURE(One_Position, Watt, "watt");
 BENCHMARK_CAPTURE(One_Position, Stephenson, "double-dwell");
 
-void Sweep(benchmark::State& state, const char* example) {
+void Sweep(benchmark::State& state, const char* example, Depth depth) {
     Workload work(example);
     Answer response = Answer::None;
     for (auto _ : state) {
-        Run_Sweep(*work.program, 3, response);
+        Run_Sweep(*work.program, 3, response, depth);
         benchmark::ClobberMemory();
     }
     state.SetItemsProcessed(state.iterations() * (MaxSteps + 1));
 }
-BENCHMARK_CAPTURE(Sweep, Watt, "watt");
-BENCHMARK_CAPTURE(Sweep, Stephenson, "double-dwell");
+BENCHMARK_CAPTURE(Sweep, Watt, "watt", Depth::All);
+BENCHMARK_CAPTURE(Sweep, Watt_Speeds, "watt", Depth::Speeds);
+BENCHMARK_CAPTURE(Sweep, Watt_Angles, "watt", Depth::Angles);
+BENCHMARK_CAPTURE(Sweep, Stephenson, "double-dwell", Depth::All);
+BENCHMARK_CAPTURE(Sweep, Stephenson_Speeds, "double-dwell", Depth::Speeds);
+BENCHMARK_CAPTURE(Sweep, Stephenson_Angles, "double-dwell", Depth::Angles);
 
 using Kernel = void (*)(const LinkageModel&, double, double, int, double*);
 

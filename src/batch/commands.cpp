@@ -29,6 +29,8 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Plot_Command,
     Compare_Command,
     Report_Command,
+    Limits_Command,
+    Study_Command,
 });
 
 int Run_Chosen(const CLI::App& app, const std::vector<Command>& commands, Console& console) {

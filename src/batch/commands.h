@@ -31,5 +31,7 @@ Command Dxf_Command(CLI::App& app);
 Command Plot_Command(CLI::App& app);
 Command Compare_Command(CLI::App& app);
 Command Report_Command(CLI::App& app);
+Command Limits_Command(CLI::App& app);
+Command Study_Command(CLI::App& app);
 
 }  // namespace kervol

@@ -2,6 +2,8 @@
 #include "batch/console.h"
 
 #include <algorithm>
+#include <iostream>
+#include <unistd.h>
 
 #include "core/report.h"
 #include "files/model_file.h"
@@ -20,6 +22,18 @@ bool Console::Print(const std::string& text) {
     out_ << text << std::flush;
     if (!out_) Complain(Failed, "standard output: cannot be written; check where it goes");
     return static_cast<bool>(out_);
+}
+
+bool Console::Is_Terminal() const {
+    return &err_ == &std::cerr && isatty(STDERR_FILENO) == 1;
+}
+
+void Console::Show_Progress(const std::string& text) {
+    if (!Is_Terminal() || (text.empty() && progress_width_ == 0)) return;
+    std::string line = text;
+    line.resize(std::max(progress_width_, text.size()), ' ');
+    err_ << '\r' << line << (text.empty() ? "\r" : "") << std::flush;
+    progress_width_ = text.size();
 }
 
 int Console::Close(const BatchRun& run) {

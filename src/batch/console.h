@@ -2,6 +2,7 @@
 // Where a command of `kervol-batch` writes its results and its complaints.
 #pragma once
 
+#include <cstddef>
 #include <ostream>
 #include <string>
 
@@ -17,6 +18,10 @@ class Console {
     int Complain(ExitCode code, std::string text);
     /// False, after a complaint, where standard output does not take it.
     bool Print(const std::string& text);
+    /// Whether complaints go to a terminal, where a line of progress may stand for a time.
+    bool Is_Terminal() const;
+    /// Puts the text in place of the last line of progress, on a terminal alone; an empty one takes it away.
+    void Show_Progress(const std::string& text);
     /// The outcome of a run, with its complaint where there is one.
     int Close(const BatchRun& run);
     /// Prints the text, or writes it to the file where one is named, and closes the run.
@@ -27,6 +32,7 @@ class Console {
   private:
     std::ostream& out_;
     std::ostream& err_;
+    std::size_t progress_width_ = 0;  ///< of the line of progress that stands
 };
 
 }  // namespace kervol

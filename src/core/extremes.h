@@ -57,19 +57,27 @@ void MaxMin2A(const Table<float, Rows, Columns>& A, std::int16_t K, std::int16_t
             [&] { Find_Extremes([&](int i) { return A(i, K); }, First, Last, Max, Min, IMax, IMin); });
 }
 
+/// Mean of value(First) to value(Last), summed in single precision; no elements leave the sum.
+template <class Value>
+float Find_Mean(Value&& value, int First, int Last) {
+    float sum = 0.0F;
+    for (int i = First; i <= Last; ++i) sum = Single(double(sum) + value(i));
+    const int n = Last - First + 1;
+    return n == 0 ? sum : Single(double(sum) / n);
+}
+
 /// Mean over First to Last, summed in single precision: of column K for the mode "I_Pointer", of row K for
 /// "Pointer_I". Any other mode sums nothing; no elements leave the sum.
 template <std::size_t Rows, std::size_t Columns>
 void Average2(std::int16_t First, std::int16_t Last, const Table<float, Rows, Columns>& A,
               std::string_view Mode, std::int16_t K, float& Avg) {
     Routine("Average2", [&] {
-        float sum = 0.0F;
-        for (int i = First; i <= Last; ++i) {
-            if (Mode == "I_Pointer") sum = Single(double(sum) + A(i, K));
-            if (Mode == "Pointer_I") sum = Single(double(sum) + A(K, i));
-        }
-        const int n = Last - First + 1;
-        Avg = n == 0 ? sum : Single(double(sum) / n);
+        Avg = Find_Mean(
+            [&](int i) {
+                if (Mode == "I_Pointer") return A(i, K);
+                return Mode == "Pointer_I" ? A(K, i) : 0.0F;
+            },
+            First, Last);
     });
 }
 

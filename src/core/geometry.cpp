@@ -25,6 +25,26 @@ void Set_Range_Angles(LinkageModel& model) {
     Set_Angle(model.ThetaStepDeg, model.ThetaStep, model.ThetaStepText);
 }
 
+void Derive_Ground_Link(LinkageModel& model) {
+    Cart_to_Polar(model.O4X, model.O4Y, model.Link1, model.GroundAngleDeg);
+    model.GroundAngle = Single(model.GroundAngleDeg * RadiansPerDegree);
+}
+
+void Derive_Local_O4(LinkageModel& model) {
+    Rotate(model.O4X, model.O4Y, model.GroundAngleDeg, -1, model.O4LocalX, model.O4LocalY);
+}
+
+void Derive_Local_O6(LinkageModel& model) {
+    Rotate(model.O6X, model.O6Y, model.GroundAngleDeg, -1, model.O6LocalX, model.O6LocalY);
+}
+
+void Derive_Direction_O6_O4(LinkageModel& model) {
+    float length;
+    Cart_to_Polar(Single(double(model.O4X) - model.O6X), Single(double(model.O4Y) - model.O6Y), length,
+                  model.O6O4AngleDeg);
+    model.O6O4Angle = Single(model.O6O4AngleDeg * RadiansPerDegree);
+}
+
 void Derive_Geometry(LinkageModel& model) {
     model.O4O6X = Single(double(model.O6LocalX) - model.O4LocalX);
     model.O4O6Y = Single(double(model.O6LocalY) - model.O4LocalY);

@@ -2,7 +2,6 @@
 #include "files/model_file.h"
 
 #include "core/geometry.h"
-#include "core/mathematics.h"
 #include "core/number_text.h"
 #include "core/path_text.h"
 #include "core/report.h"
@@ -35,7 +34,7 @@ class LoadingScope {
 void Rebuild(Program& program) {
     LinkageModel& model = program.model;
     // No file holds O4 in the local frame.
-    Rotate(model.O4X, model.O4Y, model.GroundAngleDeg, -1, model.O4LocalX, model.O4LocalY);
+    Derive_Local_O4(model);
     Derive_Geometry(program);
     Set_Open_Signs(model);
     Put_Units(model);

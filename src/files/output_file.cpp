@@ -109,6 +109,12 @@ void OutputFile::Write(std::string_view text) {
     held_back_ += text;
 }
 
+void OutputFile::Flush() {
+    const std::string text = std::exchange(held_back_, {});
+    if (std::fwrite(text.data(), 1, text.size(), file_.get()) != text.size())
+        Raise(Fault_Of_System_Error(errno));
+}
+
 void OutputFile::Close() {
     Write_And_Close(std::move(file_), std::exchange(held_back_, {}));
 }

@@ -25,6 +25,9 @@ class OutputFile {
     OutputFile& operator=(const OutputFile&) = delete;
 
     void Write(std::string_view text);
+    /// Brings what is held back to the system, so that long files need not be held whole; raises the fault of
+    /// a failed write.
+    void Flush();
     /// Brings everything to the system; raises the fault of a failed write (61 for a full disk), after which
     /// the file holds as much as could be written. Nothing can be written behind it.
     void Close();

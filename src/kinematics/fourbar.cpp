@@ -7,8 +7,7 @@
 
 namespace kervol {
 
-Arm::Arm(double the_length, double the_angle)
-    : length(the_length), angle(the_angle), sin(std::sin(the_angle)), cos(std::cos(the_angle)) {}
+Arm::Arm(const Line& line) : Line(line), sin(std::sin(line.angle)), cos(std::cos(line.angle)) {}
 
 LoopConstants::LoopConstants(double a, double b, double c, double d)
     : K1(Divide(d, a)),
@@ -32,12 +31,12 @@ HalfTangentEquation Coupler_Equation(const LoopConstants& K, double sin_input, d
     return {(K.K4 + 1) * cos_input + K.K5 - K.K1, -2 * sin_input, (K.K4 - 1) * cos_input + K.K5 + K.K1};
 }
 
-ToggleSines::ToggleSines(const Arm& coupler, const Arm& output)
-    : coupler_output(std::sin(coupler.angle - output.angle)),
-      output_coupler(std::sin(output.angle - coupler.angle)) {}
+// A sine is odd to its last bit, and so is a difference.
+ToggleSines::ToggleSines(const Line& coupler, const Line& output)
+    : coupler_output(std::sin(coupler.angle - output.angle)), output_coupler(-coupler_output) {}
 
-CouplerOutput Loop_Speeds(const Arm& input, const Arm& coupler, const Arm& output, const ToggleSines& toggle,
-                          double omega_input) {
+CouplerOutput Loop_Speeds(const Line& input, const Line& coupler, const Line& output,
+                          const ToggleSines& toggle, double omega_input) {
     const double speed = input.length * omega_input;
     return {
         Divide(Divide(speed, coupler.length) * std::sin(output.angle - input.angle), toggle.coupler_output),

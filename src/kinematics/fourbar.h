@@ -14,9 +14,16 @@ inline Vec operator+(Vec left, Vec right) {
     return {left.x + right.x, left.y + right.y};
 }
 
-/// A link as a vector: its length, its angle from +x, and that angle's sine and cosine.
-struct Arm {
-    Arm(double the_length, double the_angle);
+/// A link as a line: its length and its angle from +x.
+struct Line {
+    double length = 0.0, angle = 0.0;
+};
+
+/// A line that has the sine and cosine of its angle too.
+struct Arm : Line {
+    Arm() = default;
+    explicit Arm(const Line& line);
+    Arm(double the_length, double the_angle) : Arm(Line{the_length, the_angle}) {}
 
     Vec Position() const { return {length * cos, length * sin}; }
     Vec Velocity(double omega) const { return {-length * omega * sin, length * omega * cos}; }
@@ -25,7 +32,7 @@ struct Arm {
         return {-length * alpha * sin - length * normal * cos, -length * normal * sin + length * alpha * cos};
     }
 
-    double length, angle, sin, cos;
+    double sin = 0.0, cos = 1.0;
 };
 
 /// Position, velocity and acceleration of a point.
@@ -68,7 +75,7 @@ HalfTangentEquation Coupler_Equation(const LoopConstants& K, double sin_input, d
 
 /// Sines of the angle between coupler and output, both ways round: 0 at a toggle position.
 struct ToggleSines {
-    ToggleSines(const Arm& coupler, const Arm& output);
+    ToggleSines(const Line& coupler, const Line& output);
 
     double coupler_output, output_coupler;
 };
@@ -79,8 +86,8 @@ struct CouplerOutput {
 };
 
 /// Angular velocities for the input's. Faults at a toggle position.
-CouplerOutput Loop_Speeds(const Arm& input, const Arm& coupler, const Arm& output, const ToggleSines& toggle,
-                          double omega_input);
+CouplerOutput Loop_Speeds(const Line& input, const Line& coupler, const Line& output,
+                          const ToggleSines& toggle, double omega_input);
 
 /// The two linear equations of the angular accelerations.
 struct LoopAccelerations {

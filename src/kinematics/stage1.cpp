@@ -1,17 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "kinematics/stage1.h"
 
-#include "core/arithmetic.h"
-
 namespace kervol {
-namespace {
-
-/// Unlike in Stage 2, a leading coefficient of exactly 0 counts as a position that cannot be assembled.
-bool Can_Be_Solved(const HalfTangentEquation& equation) {
-    return !Is_Zero(equation.P) && equation.discriminant >= 0;
-}
-
-}  // namespace
 
 std::optional<Stage1> Solve_Stage1(const LinkageModel& model) {
     const double omega2 = model.Omega2;

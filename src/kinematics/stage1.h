@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "core/arithmetic.h"
 #include "core/model.h"
 #include "kinematics/fourbar.h"
 
@@ -16,6 +17,11 @@ struct Stage1 {
     double alpha3, alpha4;
     PointMotion A, B, C;
 };
+
+/// Unlike in Stage 2, a leading coefficient of exactly 0 counts as a position that cannot be assembled.
+inline bool Can_Be_Solved(const HalfTangentEquation& equation) {
+    return !Is_Zero(equation.P) && equation.discriminant >= 0;
+}
 
 /// Solves Stage 1 for the crank state `Theta2Rad`, `Omega2`, `Alpha2`, in the assembly of `OpenSign1`.
 /// Nothing where the loop cannot be closed or stands at a toggle position.

@@ -28,8 +28,38 @@ std::optional<CouplerOutput> Relative_Angles(const LinkageModel& model, double i
 
 }  // namespace
 
+Line Watt_Input(const LinkageModel& model, double theta4) {
+    return {model.LinkO4D, model.Delta4 + theta4};
+}
+
+Line Stephenson_Input(Vec C) {
+    float length, degrees;
+    Cart_to_Polar(Single(C.x), Single(C.y), length, degrees);
+    return {length, degrees * RadiansPerDegree};
+}
+
+StephensonRates::StephensonRates(const Arm& link5, const Arm& link6)
+    : p(-link5.length * link5.sin),
+      q(-link6.length * link6.sin),
+      r(link5.length * link5.cos),
+      s(-link6.length * link6.cos),
+      rq_by_p(Divide(r * q, p)) {}
+
+CouplerOutput StephensonRates::Speeds(Vec VC) const {
+    const double omega6 = Divide(Divide(r * VC.x, p) - VC.y, s - rq_by_p);
+    return {Divide(-q * omega6 - VC.x, p), omega6};
+}
+
+CouplerOutput StephensonRates::Accelerations(Vec AC, const CouplerOutput& omega) const {
+    const double omega5 = omega.coupler, omega6 = omega.output;
+    const double X = AC.x - r * omega5 * omega5 - s * omega6 * omega6;
+    const double Y = AC.y + p * omega5 * omega5 - q * omega6 * omega6;
+    const double alpha6 = Divide(Divide(X * r, p) - Y, Divisor());
+    return {Divide(alpha6 * q - X, p), alpha6};
+}
+
 std::optional<Stage2> Solve_Watt(const LinkageModel& model, const Stage1& stage1) {
-    const Arm input(model.LinkO4D, model.Delta4 + stage1.theta4);
+    const Arm input(Watt_Input(model, stage1.theta4));
     const auto relative =
         Relative_Angles(model, input.length, input.angle, model.O4O6Length, model.O4O6Angle);
     if (!relative) return std::nullopt;
@@ -59,30 +89,15 @@ std::optional<Stage2> Solve_Watt(const LinkageModel& model, const Stage1& stage1
 }
 
 std::optional<Stage2> Solve_Stephenson(const LinkageModel& model, const Stage1& stage1) {
-    float length, degrees;
-    const auto [C, VC, AC] = stage1.C;
-    Cart_to_Polar(Single(C.x), Single(C.y), length, degrees);
+    const Line input = Stephenson_Input(stage1.C.position);
     const auto relative =
-        Relative_Angles(model, length, degrees * RadiansPerDegree, model.O2O6Length, model.O2O6Angle);
+        Relative_Angles(model, input.length, input.angle, model.O2O6Length, model.O2O6Angle);
     if (!relative) return std::nullopt;
     const Arm link5(model.Link5, relative->coupler + model.O2O6Angle);
     const Arm link6(model.Link6, relative->output + model.O2O6Angle);
-
-    const double p = -link5.length * link5.sin;
-    const double q = -link6.length * link6.sin;
-    const double r = link5.length * link5.cos;
-    const double s = -link6.length * link6.cos;
-
-    // Deliberate: the signs of the speeds differ from those of the accelerations below, so that Stage 2
-    // speeds are not the derivative of the positions. Tables, dynamics and exports of this chain carry these
-    // values.
-    const double omega6 = Divide(Divide(r * VC.x, p) - VC.y, s - Divide(r * q, p));
-    const double omega5 = Divide(-q * omega6 - VC.x, p);
-
-    const double X = AC.x - r * omega5 * omega5 - s * omega6 * omega6;
-    const double Y = AC.y + p * omega5 * omega5 - q * omega6 * omega6;
-    const double alpha6 = Divide(Divide(X * r, p) - Y, Divide(r * q, p) + s);
-    const double alpha5 = Divide(alpha6 * q - X, p);
+    const StephensonRates rates(link5, link6);
+    const auto omega = rates.Speeds(stage1.C.velocity);
+    const auto alpha = rates.Accelerations(stage1.C.acceleration, omega);
 
     const auto O6 = Fixed_Pivot(model.O6LocalX, model.O6LocalY);
     Stage2 stage;
@@ -91,14 +106,14 @@ std::optional<Stage2> Solve_Stephenson(const LinkageModel& model, const Stage1& 
     stage.theta6 = link6.angle;
     stage.relative5 = relative->coupler;
     stage.relative6 = relative->output;
-    stage.omega5 = omega5;
-    stage.omega6 = omega6;
-    stage.alpha5 = alpha5;
-    stage.alpha6 = alpha6;
+    stage.omega5 = omega.coupler;
+    stage.omega6 = omega.output;
+    stage.alpha5 = alpha.coupler;
+    stage.alpha6 = alpha.output;
     stage.start = stage1.C;
-    stage.end = Point_On_Arm(link6, omega6, alpha6, O6);
-    stage.coupler2 =
-        Point_On_Arm(Arm(model.Coupler2Length, link5.angle + model.Delta5), omega5, alpha5, stage.start);
+    stage.end = Point_On_Arm(link6, omega.output, alpha.output, O6);
+    stage.coupler2 = Point_On_Arm(Arm(model.Coupler2Length, link5.angle + model.Delta5), omega.coupler,
+                                  alpha.coupler, stage.start);
     return stage;
 }
 

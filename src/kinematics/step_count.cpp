@@ -28,7 +28,7 @@ void Refuse(Program& program, const std::string& text) {
     program.port.Show_Message({text, Icon::Exclamation});
 }
 
-Refusal Sweep_Or_Refuse(Program& program, Answer& response) {
+Refusal Sweep_Or_Refuse(Program& program, Answer& response, Depth depth) {
     const std::int16_t mode = program.model.CalcMode;
     Refusal refusal = Refusal::None;
     if (mode == 1 || mode == 2) refusal = Count_Time_Steps(program);
@@ -36,7 +36,7 @@ Refusal Sweep_Or_Refuse(Program& program, Answer& response) {
     if (refusal == Refusal::TooManyAngleSteps) response = Answer::Abort;
     if (refusal != Refusal::None) return refusal;
     if (mode == 4 || mode == 5) Calc_Drive_Data(program, response);
-    if (mode >= 1 && mode <= 3) Run_Sweep(program, mode, response);
+    if (mode >= 1 && mode <= 3) Run_Sweep(program, mode, response, Safe_Depth(program.model, depth));
     return refusal;
 }
 
@@ -78,11 +78,11 @@ Refusal Count_Time_Steps(Program& program) {
     return Refusal::TimeSteps;
 }
 
-CalculationEnd Calculate_Model(Program& program) {
+CalculationEnd Calculate_Model(Program& program, Depth depth) {
     LinkageModel& model = program.model;
     Answer response = Answer::None;
     model.DataCalculated = false;
-    const Refusal refusal = Sweep_Or_Refuse(program, response);
+    const Refusal refusal = Sweep_Or_Refuse(program, response, depth);
     if (response != Answer::Abort) {
         model.DataCalculated = true;
         model.DataFromFile = false;

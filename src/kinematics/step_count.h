@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/program.h"
+#include "kinematics/depth.h"
 
 namespace kervol {
 
@@ -32,7 +33,10 @@ enum class CalculationEnd {
 /// The whole calculation of the model's mode, as the Calculate button does it: refusals, sweep or drive data,
 /// closing flags. A refusal other than for too many angle steps closes like a sweep, deliberately, over the
 /// old tables.
-CalculationEnd Calculate_Model(Program& program);
+///
+/// A sweep goes as deep as `Safe_Depth` takes `depth` for the model; an imported drive is always calculated
+/// whole.
+CalculationEnd Calculate_Model(Program& program, Depth depth = Depth::All);
 
 /// Range of a quick preview over the whole travel in ten steps: a full turn, or a degree to either side of 0
 /// where Stage 1 is non-Grashof. The user's range in degrees and its texts stay.

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/program.h"
+#include "kinematics/depth.h"
 
 namespace kervol {
 
@@ -18,19 +19,19 @@ void Set_Open_Signs(LinkageModel& model);
 
 /// Sweep of the calculated modes 1 to 3; other modes sweep nothing. Sets the open signs, classifies the
 /// stages and clears `DynamicsCalculated`. `response` is Abort where the user gave up; `DataCalculated` is
-/// clear then.
-void Run_Sweep(Program& program, std::int16_t CalcMode, Answer& response);
+/// clear then. `depth` as `Calculate` takes it, here and below.
+void Run_Sweep(Program& program, std::int16_t CalcMode, Answer& response, Depth depth = Depth::All);
 
 /// Mode 1: the one position `Theta2One`, row 0.
-void Calc_One_Position(Program& program, Answer& response);
+void Calc_One_Position(Program& program, Answer& response, Depth depth = Depth::All);
 
 /// Mode 2: constant acceleration from time 0. Deliberate: `Alpha2`, with which each position is solved, is
 /// not set.
-void Calc_Time_Steps(Program& program, Answer& response);
+void Calc_Time_Steps(Program& program, Answer& response, Depth depth = Depth::All);
 
 /// Mode 3: constant speed from `ThetaMin` to `ThetaMax`, or back for a negative speed. Clears the tables
 /// first.
-void Calc_Angle_Steps(Program& program, Answer& response);
+void Calc_Angle_Steps(Program& program, Answer& response, Depth depth = Depth::All);
 
 /// Modes 4 and 5: the imported drive. An answer of Abort does not stop it. A row above 360 is a fault.
 void Calc_Drive_Data(Program& program, Answer& response);

@@ -6,15 +6,10 @@
 #include <string_view>
 #include <vector>
 
+#include "core/named_text.h"
 #include "core/program.h"
 
 namespace kervol {
-
-/// A line of a list: what is told, and what there is to tell.
-struct NamedText {
-    std::string name;
-    std::string text;
-};
 
 /// Chain, links, angles and pivots with their units.
 std::vector<NamedText> Geometry_Lines(const LinkageModel& model);

@@ -33,6 +33,7 @@ td.n,th.n{text-align:right;white-space:nowrap}
 tr.group th{color:var(--text);font-weight:600;padding-top:12px}
 td{overflow-wrap:anywhere}
 .wide{overflow-x:auto}
+.full{grid-column:1/-1}
 .narrow{max-width:860px}
 .key{display:block}
 .key span{white-space:nowrap;margin-right:14px}

@@ -9,8 +9,10 @@
 #include "core/report.h"
 #include "files/output_file.h"
 #include "report/html_table.h"
+#include "report/limits_section.h"
 #include "report/line_chart.h"
 #include "report/model_words.h"
+#include "report/page_parts.h"
 #include "report/page_style.h"
 #include "report/report_curves.h"
 #include "report/torque_analysis.h"
@@ -21,20 +23,6 @@ namespace {
 constexpr int kPictureSize = 620;
 constexpr double kFramesApart = 1.0 / 60;
 constexpr int kDigits = 5;
-
-std::string Element(const std::string& tag, const std::string& content) {
-    return "<" + tag + ">" + content + "</" + tag.substr(0, tag.find(' ')) + ">\n";
-}
-
-std::string Panel(const std::string& heading, const std::string& content) {
-    return Element("div class=\"panel\"", Element("h3", Markup_Text(heading)) + content);
-}
-
-std::string List_Table(const std::vector<NamedText>& lines) {
-    HtmlTable table({}, 2);
-    for (const NamedText& line : lines) table.Add_Row({line.name, line.text});
-    return table.Text();
-}
 
 std::string Number(double value) {
     return Short_Number(value, kDigits);
@@ -67,7 +55,8 @@ class Page {
             "<meta name=\"viewport\" content=\"width=device-width,initial-scale=1\">\n" +
             Element("title", title) + "<style>" + std::string(PageStyle) + "</style></head>\n<body><main>\n";
         text += Head() + Overview() + Data();
-        if (model_.DataCalculated) text += Plots() + Extremes_Section() + Flywheel() + Spectrum();
+        if (model_.DataCalculated)
+            text += Limits_Section(model_) + Plots() + Extremes_Section() + Flywheel() + Spectrum();
         return text + Messages() + Foot() + "</main></body></html>\n";
     }
 
@@ -268,10 +257,9 @@ class Page {
 
     std::string Messages() const {
         if (boxes_.empty()) return {};
-        std::string items;
-        for (const MessageBox& box : boxes_) items += Element("li", Markup_Text(box.text));
-        return "<section><h2>Messages</h2><div class=\"panel\">" + Element("ul class=\"boxes\"", items) +
-               "</div></section>\n";
+        std::vector<std::string> texts;
+        for (const MessageBox& box : boxes_) texts.push_back(box.text);
+        return "<section><h2>Messages</h2><div class=\"panel\">" + Bullets(texts) + "</div></section>\n";
     }
 
     std::string Foot() const {

@@ -16,9 +16,9 @@ struct ReportNotes {
     int solved_steps = MaxSteps + 1;    ///< that have forces, where a singular step ended them
 };
 
-/// The report of a calculated model: its data, the linkage in motion, classes, plots, extremes, with the
-/// dynamics torque and forces too, their flywheel and spectrum, and the boxes of the notes. Of a model that
-/// was not calculated its data alone. Changes nothing; a fault goes to the caller.
+/// The report of a calculated model: its data, the linkage in motion, classes, range and limits, plots,
+/// extremes, with the dynamics torque and forces too, their flywheel and spectrum, and the boxes of the
+/// notes. Of a model that was not calculated its data alone. Changes nothing; a fault goes to the caller.
 std::string Report_Page(const Program& program, const ReportNotes& notes = {});
 
 /// Writes the report to a file, keeping what stood there as `OutputFile` does. False after a fault, which is

@@ -2,7 +2,6 @@
 #include "screens/geometry_fields.h"
 
 #include "catalogue/names.h"
-#include "core/arithmetic.h"
 #include "core/geometry.h"
 #include "core/mathematics.h"
 #include "core/report.h"
@@ -40,13 +39,10 @@ class GeometryReader {
         model_.O4X = Number_In(x);
         model_.O4Y = Number_In(y);
         ground_edited_ = Is_Edited(x) || Is_Edited(y);
-        if (ground_edited_) {
-            Cart_to_Polar(model_.O4X, model_.O4Y, model_.Link1, model_.GroundAngleDeg);
-            model_.GroundAngle = Single(model_.GroundAngleDeg * RadiansPerDegree);
-        }
+        if (ground_edited_) Derive_Ground_Link(model_);
         Put_Number(fields_.at(Field_Link1), model_.Link1, kLengthCode);
         Put_Number(fields_.at(Field_Ground), model_.GroundAngleDeg, kAngleCode);
-        Rotate(model_.O4X, model_.O4Y, model_.GroundAngleDeg, -1, model_.O4LocalX, model_.O4LocalY);
+        Derive_Local_O4(model_);
     }
 
     /// A legacy file brings one coordinate of O6 in each frame: until the user edits a pivot the local ones
@@ -57,14 +53,7 @@ class GeometryReader {
         model_.O6X = Number_In(x);
         model_.O6Y = Number_In(y);
         if (!ground_edited_ && !Is_Edited(x) && !Is_Edited(y)) return;
-        Rotate(model_.O6X, model_.O6Y, model_.GroundAngleDeg, -1, model_.O6LocalX, model_.O6LocalY);
-    }
-
-    void Direction_O6_O4() {
-        float length;
-        Cart_to_Polar(Single(double(model_.O4X) - model_.O6X), Single(double(model_.O4Y) - model_.O6Y),
-                      length, model_.O6O4AngleDeg);
-        model_.O6O4Angle = Single(model_.O6O4AngleDeg * RadiansPerDegree);
+        Derive_Local_O6(model_);
     }
 
   private:
@@ -120,7 +109,7 @@ void Get_Input_Geometry(Screens& screens) {
         read.Angle(Field_Delta4, model.Delta4Deg, model.Delta4, model.Delta4Text);
         read.Ground();
         read.Output_Pivot();
-        read.Direction_O6_O4();
+        Derive_Direction_O6_O4(model);
         Close_Reading(screens, screens.frm_Inputnew);
     });
 }
@@ -165,7 +154,7 @@ void Get_Calc_Geometry(Screens& screens) {
         read.Length(Field_Link6, model.Link6);
         read.Ground();
         read.Output_Pivot();
-        read.Direction_O6_O4();
+        Derive_Direction_O6_O4(model);
         Close_Reading(screens, screens.frm_Animate);
     });
 }

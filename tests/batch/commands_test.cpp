@@ -21,7 +21,8 @@ TEST(Help, IsThereForTheProgramAndForEachCommand) {
     const CommandRun program = Batch({"--help"});
     EXPECT_EQ(program.code, 0);
     EXPECT_EQ(program.err, "");
-    for (const char* command : {"tables", "table", "functions", "info", "convert", "example"}) {
+    for (const char* command :
+         {"tables", "table", "functions", "info", "convert", "example", "limits", "study"}) {
         EXPECT_THAT(program.out, HasSubstr(command));
         const CommandRun run = Batch({command, "--help"});
         EXPECT_EQ(run.code, 0) << command;

@@ -46,7 +46,7 @@ class ReportTest : public ProgramTest {
 TEST_F(ReportTest, OfAMotionAloneHasNoForces) {
     Calculate_Example("watt");
     const std::string page = Report_Page(*program);
-    EXPECT_THAT(Headings(page), ElementsAre("Model", "Motion", "Extremes"));
+    EXPECT_THAT(Headings(page), ElementsAre("Model", "Range and limits", "Motion", "Extremes"));
     EXPECT_EQ(Count(page, "<svg class=\"chart\""), 6U);
     EXPECT_THAT(page, HasSubstr("<th>Forces</th><td>not calculated</td>"));
 }
@@ -55,8 +55,8 @@ TEST_F(ReportTest, WithTheDynamicsHasForcesFlywheelAndSpectrum) {
     Calculate_Example("watt");
     Run_Dynamics(*program);
     const std::string page = Report_Page(*program);
-    EXPECT_THAT(Headings(page), ElementsAre("Model", "Motion", "Torque and forces", "Extremes", "Flywheel",
-                                            "Spectrum of the torque"));
+    EXPECT_THAT(Headings(page), ElementsAre("Model", "Range and limits", "Motion", "Torque and forces",
+                                            "Extremes", "Flywheel", "Spectrum of the torque"));
     EXPECT_EQ(Count(page, "<svg class=\"chart\""), 11U);
     EXPECT_THAT(page, HasSubstr("Areas of Crank Torque"));
 }
@@ -114,6 +114,23 @@ TEST_F(ReportTest, TellsWhichStepsFailed) {
     EXPECT_THAT(Headings(page), ::testing::Contains("Messages"));
 }
 
+/// The distance A-O4 is at most 21.375 in, links 3 and 4 span 15.625 in: the crank stops at 93.12 degrees.
+TEST_F(ReportTest, TellsHowFarTheCrankTurnsAndWhatToHeed) {
+    Calculate_Example("watt");
+    model.Link2 = 12;
+    const std::string page = Report_Page(*program);
+    EXPECT_THAT(page, HasSubstr("<th>Usable</th><td>266.88 to 93.12 deg over 0, 186.24 deg wide</td>"));
+    EXPECT_THAT(page, HasSubstr("<li>The crank cannot make a full turn.</li>"));
+    EXPECT_THAT(page, HasSubstr("<li>The drive from 0 to 360 deg leaves the usable range.</li>"));
+    EXPECT_THAT(page, HasSubstr("<li>The transmission angle of Stage 1 falls to 0.00 deg at 93.13 deg;"));
+}
+
+TEST_F(ReportTest, SaysWhereThereIsNoPositionAtAll) {
+    Calculate_Example("watt");
+    model.Link4 = 0;
+    EXPECT_THAT(Report_Page(*program), HasSubstr("<li>There is no position at all: a length is 0.</li>"));
+}
+
 TEST_F(ReportTest, OfAModelThatWasNotCalculatedHasItsDataAlone) {
     EXPECT_THAT(Headings(Report_Page(*program)), ElementsAre("Model"));
 }
@@ -124,7 +141,7 @@ TEST_F(ReportTest, OfOnePositionHasNoCharts) {
     ASSERT_EQ(Calculate_Model(*program), CalculationEnd::Done);
     Run_Dynamics(*program);
     const std::string page = Report_Page(*program);
-    EXPECT_THAT(Headings(page), ElementsAre("Model", "Extremes"));
+    EXPECT_THAT(Headings(page), ElementsAre("Model", "Range and limits", "Extremes"));
 }
 
 TEST_F(ReportTest, OfAChainWithoutStage2ShowsStage1) {
