@@ -23,6 +23,7 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Example_Command,
     Drive_Command,
     Export_Command,
+    Check_Command,
 });
 
 int Run_Chosen(const CLI::App& app, const std::vector<Command>& commands, Console& console) {

@@ -25,5 +25,6 @@ Command Convert_Command(CLI::App& app);
 Command Example_Command(CLI::App& app);
 Command Drive_Command(CLI::App& app);
 Command Export_Command(CLI::App& app);
+Command Check_Command(CLI::App& app);
 
 }  // namespace kervol

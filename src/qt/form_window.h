@@ -42,6 +42,7 @@ void Lay_Out_Plot_Type(FormWindow& form);
 void Lay_Out_Plot_Select(FormWindow& form, const SelectionKind& kind);
 void Lay_Out_Print_Select(FormWindow& form);
 void Lay_Out_Print_Data(FormWindow& form);
+void Lay_Out_Self_Check(FormWindow& form);
 void Lay_Out_Quit(FormWindow& form);
 
 }  // namespace kervol

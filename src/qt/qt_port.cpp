@@ -119,6 +119,9 @@ void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
         case ScreenId::frm_PrintData:
             Lay_Out_Print_Data(*form.window);
             return Bind(form, screens_->frm_PrintData);
+        case ScreenId::frm_SelfCheck:
+            Lay_Out_Self_Check(*form.window);
+            return Bind(form, screens_->frm_SelfCheck);
     }
 }
 

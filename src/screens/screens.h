@@ -45,6 +45,7 @@ struct HomeScreen {
     std::array<MenuItem, 6> mnu_pick;  ///< 1 to 5; 0 stays unused
     MenuItem mnu_Examples, mnu_Test, mnu_Hoeken, mnu_Roberts, mnu_Double;
     MenuItem mnu_FFT, mnu_CalcFFT;
+    MenuItem mnu_Tools, mnu_SelfCheck;
     MenuItem mnu_Version, mnu_About, mnu_Disclaimer;
 };
 
@@ -52,6 +53,13 @@ struct AboutScreen {
     AboutScreen();
 
     Label lblHeader, lbl_Version;
+};
+
+struct SelfCheckScreen {
+    SelfCheckScreen();
+
+    TextView txt_Report;
+    Button cmd_Back, cmd_Copy;
 };
 
 struct QuitScreen {
@@ -81,6 +89,7 @@ struct Screens {
     PlotSelectScreen frm_PlotSelect4{kPlotSelect4};
     PrintSelectScreen frm_PrintSelect;
     PrintDataScreen frm_PrintData;
+    SelfCheckScreen frm_SelfCheck;
     QuitScreen frm_Quit;
 };
 

@@ -90,6 +90,9 @@ std::set<std::string> Names(Screens& screens, ScreenId screen) {
         case ScreenId::frm_PrintData:
             Visit_Controls(screens.frm_PrintData, list);
             break;
+        case ScreenId::frm_SelfCheck:
+            Visit_Controls(screens.frm_SelfCheck, list);
+            break;
     }
     return list.names;
 }

@@ -73,7 +73,7 @@ inline constexpr ScreenId kScreensWithWindow[] = {
     ScreenId::frm_MassProp,    ScreenId::frm_Matrix,      ScreenId::frm_About,
     ScreenId::frm_Quit,        ScreenId::frm_PlotType,    ScreenId::frm_PlotSelect1,
     ScreenId::frm_PlotSelect2, ScreenId::frm_PlotSelect3, ScreenId::frm_PlotSelect4,
-    ScreenId::frm_PrintSelect, ScreenId::frm_PrintData,
+    ScreenId::frm_PrintSelect, ScreenId::frm_PrintData,   ScreenId::frm_SelfCheck,
 };
 
 }  // namespace kervol

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The self-check in plain words and tables, for a person.
+#pragma once
+
+#include <string>
+
+#include "core/model.h"
+#include "selfcheck/self_check.h"
+
+namespace kervol {
+
+/// Lines of at most 110 characters, to be read in a font of one width. The model must be the one that was
+/// checked.
+std::string Self_Check_Text(const LinkageModel& model, const SelfCheck& result);
+
+/// One line for a person who must not rely on the tables; empty where they hold.
+std::string Self_Check_Complaint(const SelfCheck& result);
+
+}  // namespace kervol
