@@ -15,19 +15,6 @@
 namespace kervol {
 namespace {
 
-constexpr ColourTable kColours = {
-    .red = {255, 0, 0},
-    .green = {0, 255, 0},
-    .blue = {0, 0, 255},
-    .purple = {128, 0, 128},
-    .white = {255, 255, 255},
-    .black = {0, 0, 0},
-    .cyan = {0, 255, 255},
-    .yellow = {255, 255, 0},
-    .grey = {128, 128, 128},
-    .magenta = {255, 0, 255},
-};
-
 /// Deliberate: from the upper bound alone, not from the window's extent.
 void Set_Radii(AnimationState& state) {
     const double size = std::abs(double(state.PlotMax));
@@ -68,7 +55,7 @@ void Animate_Setup(Program& program, LinkageView& view, const AnimationSettings&
     Procedure(program, "Animate_Setup", [&] {
         AnimationState& state = program.animation;
         Picture& picture = *view.Picture1;
-        state.colours = kColours;
+        state.colours = NamedColours;
         Check_Parameters(program, settings);
         if (program.model.StepMode == "N") picture.Clear();
         if (view.chk_autoscale.on) Autoscale6(program);

@@ -50,6 +50,8 @@ class BatchRun {
     /// One line for a file that could not be written, after the fault was reported.
     std::string Write_Complaint(const std::string& path) const;
 
+    /// Whether every step was swept; else the calculation was refused or given up.
+    bool Is_Calculated() const { return end_ == CalculationEnd::Done; }
     /// Whether a singular step ended the forces.
     bool Forces_Stopped() const;
 

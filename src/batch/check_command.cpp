@@ -6,6 +6,7 @@
 #include "batch/command_options.h"
 #include "batch/commands.h"
 #include "selfcheck/self_check.h"
+#include "selfcheck/self_check_summary.h"
 #include "selfcheck/self_check_text.h"
 
 namespace kervol {

@@ -3,7 +3,7 @@
 
 #include "batch/json_writer.h"
 #include "selfcheck/deviation_texts.h"
-#include "selfcheck/self_check_text.h"
+#include "selfcheck/self_check_summary.h"
 
 namespace kervol {
 namespace {
@@ -75,8 +75,7 @@ void Put_Drive(JsonWriter& json, const char* name, const DriveNeeds& needs) {
 void Put_Deviations(JsonWriter& json, const LinkageModel& model, const SelfCheck& result) {
     json.Key("deviations");
     json.Begin_List();
-    for (const DeviationEffect& effect : result.effects) {
-        if (!Applies(effect.deviation, model, result)) continue;
+    for (const DeviationEffect& effect : Applying_Deviations(model, result)) {
         json.Begin_Object();
         json.Member("name", Deviation_Name(effect.deviation));
         json.Member("title", Deviation_Title(effect.deviation));

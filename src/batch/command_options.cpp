@@ -2,6 +2,7 @@
 #include "batch/command_options.h"
 
 #include <cmath>
+#include <filesystem>
 
 #include "core/number_text.h"
 #include "kinematics/examples.h"
@@ -30,6 +31,14 @@ void Add_Source_Options(CLI::App& command, Source& source) {
 void Require_One_Source(const Source& source) {
     if (source.model.empty() == source.example.empty())
         throw CLI::ValidationError("name one MODEL or one --example");
+}
+
+void Part_Model_From_Functions(Source& source, std::vector<std::string>& functions) {
+    if (source.Is_Named() || functions.size() < 2) return;
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(functions.back(), error)) return;
+    source.model = functions.back();
+    functions.pop_back();
 }
 
 bool Take_Model(BatchRun& run, const Source& source) {

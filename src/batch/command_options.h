@@ -32,6 +32,8 @@ struct Source {
 void Add_Source_Options(CLI::App& command, Source& source);
 /// Refuses a command line that names none of the two, or both.
 void Require_One_Source(const Source& source);
+/// "--function NAME MODEL": where no model is named, the last of several names may be the file of one.
+void Part_Model_From_Functions(Source& source, std::vector<std::string>& functions);
 /// False where nothing could be read.
 bool Take_Model(BatchRun& run, const Source& source);
 

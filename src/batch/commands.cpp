@@ -23,6 +23,12 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Example_Command,
     Drive_Command,
     Export_Command,
+    Draw_Command,
+    Animate_Command,
+    Dxf_Command,
+    Plot_Command,
+    Compare_Command,
+    Report_Command,
     Check_Command,
 });
 
@@ -46,6 +52,7 @@ int Run_Commands(int argc, const char* const* argv, std::ostream& out, std::ostr
         "Exit codes: 0 done; 1 wrong use; 2 a file could not be read whole or written, or a numeric fault;\n"
         "3 done, but some step did not assemble; 4 refused or given up.");
     std::vector<Command> commands;
+    commands.reserve(kCommands.size());
     for (const auto declare : kCommands) commands.push_back(declare(app));
 
     Console console(out, err);

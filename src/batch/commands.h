@@ -25,6 +25,12 @@ Command Convert_Command(CLI::App& app);
 Command Example_Command(CLI::App& app);
 Command Drive_Command(CLI::App& app);
 Command Export_Command(CLI::App& app);
+Command Draw_Command(CLI::App& app);
+Command Animate_Command(CLI::App& app);
+Command Dxf_Command(CLI::App& app);
+Command Plot_Command(CLI::App& app);
+Command Compare_Command(CLI::App& app);
+Command Report_Command(CLI::App& app);
 Command Check_Command(CLI::App& app);
 
 }  // namespace kervol

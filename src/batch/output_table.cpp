@@ -38,12 +38,7 @@ std::string Not_Available(const std::string& text) {
     return "\"" + text + "\" needs results that are not there yet" + std::string(kSeeFunctions);
 }
 
-/// A function without components: a scalar, and the crank torque with a flywheel.
-bool Is_One_Number(const CatalogueRow& row) {
-    return row.kind == FunctionClass::Scalar || row.code == table_code::FlywheelTorque;
-}
-
-bool Is_One_Number(const CatalogueNames& names, std::string_view name) {
+bool Is_Name_Of_One_Number(const CatalogueNames& names, std::string_view name) {
     for (int number = 1; number <= CatalogueRows; ++number)
         if (names.CatalogName(number) == name) return Is_One_Number(Catalogue_Row(number));
     return false;
@@ -57,7 +52,7 @@ SlotBoxes Boxes_Of(const CatalogueNames& names, const std::string& choice) {
     SlotBoxes boxes = {choice.substr(0, colon),
                        has_component ? choice.substr(colon + 1) : names.ComponentName(component::X)};
     const bool is_component = Holds(names.ComponentName, boxes.component) && !boxes.component.empty();
-    if (is_component && Is_One_Number(names, boxes.variable))
+    if (is_component && Is_Name_Of_One_Number(names, boxes.variable))
         boxes.component = names.ComponentName(component::Mag);
     return boxes;
 }

@@ -3,19 +3,23 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <iomanip>
 #include <sstream>
 #include <string_view>
+#include <vector>
 
 #include "core/number_text.h"
+#include "dynamics/joint_forces.h"
+#include "report/model_words.h"
 
 namespace kervol {
 namespace {
 
 constexpr int kLabelWidth = 26;
 constexpr int kShownRows = 13;
+/// As many as a summary is read for.
+constexpr int kDigits = 4;
 
 using Out = std::ostringstream;
 
@@ -23,98 +27,8 @@ void Put_Line(Out& out, std::string_view label, const std::string& value) {
     out << "  " << std::left << std::setw(kLabelWidth) << label << value << '\n';
 }
 
-void Put_Number(Out& out, std::string_view label, float value, std::string_view unit) {
-    Put_Line(out, label, Plain_Number(value) + " " + std::string(unit));
-}
-
-std::string Chain_Name(const LinkageModel& model) {
-    if (model.LinkageType == "W") return "Watt";
-    if (model.LinkageType == "S") return "Stephenson";
-    return "\"" + model.LinkageType + "\", Stage 1 alone";
-}
-
-std::string Point_Text(float x, float y, const std::string& unit) {
-    return Plain_Number(x) + ", " + Plain_Number(y) + " " + unit;
-}
-
-void Put_Geometry(Out& out, const LinkageModel& model) {
-    const bool watt = model.LinkageType == "W";
-    const std::string& length = model.UnitText(6);
-    Put_Line(out, "Chain",
-             Chain_Name(model) + ", Stage 1 " + model.OpenCross1Text + ", Stage 2 " + model.OpenCross2Text);
-    Put_Number(out, "Link 1 (O2-O4)", model.Link1, length);
-    Put_Number(out, "Link 2 (O2-A)", model.Link2, length);
-    Put_Number(out, "Link 3 (A-B)", model.Link3, length);
-    Put_Number(out, "Link 4 (O4-B)", model.Link4, length);
-    if (watt) Put_Number(out, "Link O4-D", model.LinkO4D, length);
-    if (watt) Put_Number(out, "Angle Delta4", model.Delta4Deg, "deg");
-    Put_Number(out, watt ? "Link 5 (D-E)" : "Link 5 (C-D)", model.Link5, length);
-    Put_Number(out, watt ? "Link 6 (O6-E)" : "Link 6 (O6-D)", model.Link6, length);
-    Put_Number(out, "Coupler A-C", model.CouplerAC, length);
-    Put_Number(out, "Angle Delta3", model.Delta3Deg, "deg");
-    Put_Number(out, "Coupler point 2", model.Coupler2Length, length);
-    Put_Number(out, "Angle Delta5", model.Delta5Deg, "deg");
-    Put_Line(out, "Pivot O4", Point_Text(model.O4X, model.O4Y, length));
-    Put_Line(out, "Pivot O6", Point_Text(model.O6X, model.O6Y, length));
-    Put_Number(out, "Angle to ground", model.GroundAngleDeg, "deg");
-}
-
-std::string Drive_Text(const LinkageModel& model) {
-    const std::string speed = Plain_Number(model.Omega2Start) + " rad/s";
-    switch (model.CalcMode) {
-        case 1:
-            return "one position at " + Plain_Number(model.Theta2One) + " deg, " + speed;
-        case 2:
-            return "time steps from " + Plain_Number(model.TimeStart) + " to " + Plain_Number(model.TimeEnd) +
-                   " by " + Plain_Number(model.TimeStep) + " s, starting at " +
-                   Plain_Number(model.Theta2One) + " deg, " + speed + ", " + Plain_Number(model.Alpha2Const) +
-                   " rad/s^2";
-        case 3:
-            return "angle steps from " + Plain_Number(model.ThetaMinDeg) + " to " +
-                   Plain_Number(model.ThetaMaxDeg) + " by " + Plain_Number(model.ThetaStepDeg) + " deg, " +
-                   speed;
-        case 4:
-            return "cam s-v-a data of " + model.DriveFileName;
-        case 5:
-            return "linkage data of " + model.DriveFileName;
-        default:
-            return "none (mode " + std::to_string(model.CalcMode) + ")";
-    }
-}
-
-/// "3 to 7, 12": the steps that did not assemble.
-std::string Failed_Steps(const ResultTables& tables, int last) {
-    std::string text;
-    for (int step = 0; step <= last; ++step) {
-        if (tables.StepValid(step)) continue;
-        const int first = step;
-        while (step < last && !tables.StepValid(step + 1)) ++step;
-        text += (text.empty() ? "" : ", ") + std::to_string(first);
-        if (step > first) text += " to " + std::to_string(step);
-    }
-    return text.empty() ? "none" : text;
-}
-
-/// The class in words, as the classification put it or, where none ran, as the file has it.
-std::string Class_Text(const std::string& text, const std::string& stage_class) {
-    const std::size_t words = std::string_view("Stage  1  ").size();
-    if (text.size() > words) return text.substr(words);
-    if (stage_class == "Y") return "is Grashof";
-    if (stage_class == "N") return "is Non - Grashof";
-    return stage_class == "SC" ? "is Special Case Grashof" : "not classified";
-}
-
-void Put_Classes(Out& out, const LinkageModel& model) {
-    Put_Line(out, "Stage 1", Class_Text(model.StageText(0), model.Stage1Class));
-    if (model.LinkageType == "W") Put_Line(out, "Stage 2", Class_Text(model.StageText(1), model.Stage2Class));
-}
-
-/// In four digits, which is as much as a summary is read for.
-std::string Short_Number(double value) {
-    std::array<char, 32> text;
-    const auto end =
-        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, 4);
-    return Plain_Number(To_Double({text.data(), static_cast<std::size_t>(end.ptr - text.data())}));
+void Put_Lines(Out& out, const std::vector<NamedText>& lines) {
+    for (const NamedText& line : lines) Put_Line(out, line.name, line.text);
 }
 
 /// Least and greatest value over the solved steps that assemble: "-1.2 at step 3 to 4 at step 20".
@@ -127,26 +41,9 @@ std::string Range_Text(const ResultTables& tables, int solved_steps, Value&& val
         if (high < 0 || value(step) > value(high)) high = step;
     }
     if (low < 0) return {};
-    return Short_Number(value(low)) + " at step " + std::to_string(low) + " to " + Short_Number(value(high)) +
-           " at step " + std::to_string(high);
+    return Short_Number(value(low), kDigits) + " at step " + std::to_string(low) + " to " +
+           Short_Number(value(high), kDigits) + " at step " + std::to_string(high);
 }
-
-struct ForceLine {
-    std::string_view label;  ///< the one of the Watt chain
-    std::string_view stephenson_label;
-    int entry;  ///< of `ForceTable`
-};
-
-constexpr std::array<ForceLine, 8> kForces = {{
-    {"Force at O2", "Force at O2", 5},
-    {"Force at A", "Force at A", 0},
-    {"Force at B", "Force at B", 1},
-    {"Force at O4", "Force at O4", 6},
-    {"Force at D", "Force at C", 8},
-    {"Force at E", "Force at D", 9},
-    {"Force at O6", "Force at O6", 10},
-    {"Shaking force", "Shaking force", 7},
-}};
 
 void Put_Forces(Out& out, const Program& program, int solved_steps) {
     const ResultTables& tables = program.tables;
@@ -155,14 +52,16 @@ void Put_Forces(Out& out, const Program& program, int solved_steps) {
         Range_Text(tables, solved_steps, [&](int step) { return double(tables.TorqueTable(step, 0)); });
     if (torque.empty()) return Put_Line(out, "Forces", "none; no step that assembles could be solved");
     Put_Line(out, "Driving torque", torque + " " + model.UnitText(9));
-    for (const ForceLine& line : kForces) {
+    const auto put_force = [&](const std::string& label, int entry) {
         const std::string force = Range_Text(tables, solved_steps, [&](int step) {
-            const auto& vector = tables.ForceTable(step, line.entry);
+            const auto& vector = tables.ForceTable(step, entry);
             return std::hypot(double(vector(0)), double(vector(1)));
         });
-        Put_Line(out, model.LinkageType == "S" ? line.stephenson_label : line.label,
-                 force + " " + model.UnitText(10));
-    }
+        Put_Line(out, label, force + " " + model.UnitText(10));
+    };
+    for (const JointForce& joint : JointForces)
+        put_force("Force at " + std::string(joint.Name(model)), joint.entry);
+    put_force("Shaking force", ShakingForceEntry);
     if (solved_steps <= model.NumSteps)
         Put_Line(out, "Forces not solved", "from step " + std::to_string(solved_steps) + " on");
 }
@@ -211,8 +110,8 @@ std::string Summary(const Program& program, std::optional<int> solved_steps) {
     Out out;
     out << (model.ModelTitle.empty() ? model.ModelName : model.ModelTitle) << "\n\n";
     if (!model.ModelPath.empty()) Put_Line(out, "File", model.ModelPath);
-    Put_Geometry(out, model);
-    Put_Classes(out, model);
+    Put_Lines(out, Geometry_Lines(model));
+    Put_Lines(out, Class_Lines(model));
     Put_Line(out, "Drive", Drive_Text(model));
     Put_Line(out, "Steps", std::to_string(std::max(last + 1, 0)));
     Put_Line(out, "Steps not assembled", Failed_Steps(program.tables, last));

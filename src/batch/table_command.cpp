@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The commands that write chosen output functions as a table, and list what can be chosen.
-#include <filesystem>
 #include <memory>
 #include <optional>
 
@@ -53,18 +52,8 @@ int Write_Table(Console& console, const Arguments& arguments) {
     return console.Put_Out(run, Table_Text(program, labels, arguments.format), arguments.output);
 }
 
-/// "--function NAME MODEL": what stands behind the names may be the model.
-void Part_Model_From_Functions(Arguments& arguments) {
-    auto& functions = arguments.functions;
-    if (arguments.source.Is_Named() || functions.size() < 2) return;
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(functions.back(), error)) return;
-    arguments.source.model = functions.back();
-    functions.pop_back();
-}
-
 void Check_Table_Arguments(Arguments& arguments) {
-    Part_Model_From_Functions(arguments);
+    Part_Model_From_Functions(arguments.source, arguments.functions);
     Require_One_Source(arguments.source);
     if (arguments.functions.empty() == arguments.preset.empty())
         throw CLI::ValidationError("name --function or --preset, one of them");

@@ -97,6 +97,10 @@ std::string Tables_Json(const Program& program, const RecordingPort& port, const
         Put_Rows(json, "FlywheelTorque", tables.FlywheelTorque, last);
         Put_Flywheel(json, *further.flywheel);
     }
+    if (further.spectrum) {
+        json.Member("FFTHalf", program.fourier.FFTHalf);
+        Put_Rows(json, "FFTTable", tables.FFTTable, program.fourier.FFTHalf - 1);
+    }
     json.End_Object();
     return json.Text() + "\n";
 }

@@ -14,6 +14,7 @@ namespace kervol {
 struct FurtherTables {
     bool dynamics = false;
     const CrankTorqueAreas* flywheel = nullptr;
+    bool spectrum = false;
 };
 
 std::string Tables_Json(const Program& program, const RecordingPort& port, const FurtherTables& further);

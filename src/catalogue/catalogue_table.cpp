@@ -101,4 +101,8 @@ const CatalogueRow& Catalogue_Row(std::ptrdiff_t number) {
     return kRows[static_cast<std::size_t>(number) - 1];
 }
 
+bool Is_One_Number(const CatalogueRow& row) {
+    return row.kind == FunctionClass::Scalar || row.code == table_code::FlywheelTorque;
+}
+
 }  // namespace kervol

@@ -45,4 +45,7 @@ struct CatalogueRow {
 /// Row 1 to 66; fault 9 outside.
 const CatalogueRow& Catalogue_Row(std::ptrdiff_t number);
 
+/// A function without components: a scalar, and the crank torque with a flywheel.
+bool Is_One_Number(const CatalogueRow& row);
+
 }  // namespace kervol

@@ -29,7 +29,7 @@ void Size_Grid(Program& program, Grid& grid) {
     grid.column_width = static_cast<int>(grid.width * kUsableWidth) / output.GridCols;
     const double printed = Divide(Last_Row(program), Rows_Apart(program.model));
     const std::int16_t rows = Int16(std::floor(printed + GridHeadRows + 1));
-    if (rows < output.GridRows) grid.Clear();
+    if (rows < output.GridRows) Clear_Grid(grid);
     output.GridRows = rows;
     grid.Resize(output.GridRows, output.GridCols);
 }

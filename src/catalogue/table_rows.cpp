@@ -11,8 +11,7 @@
 namespace kervol {
 
 std::int16_t Last_Row(const Program& program) {
-    if (!program.selections.SelFFT) return program.model.NumSteps;
-    return std::min(program.fourier.NumHarmonics, MaxHarmonics);
+    return program.selections.SelFFT ? Last_Harmonic(program.fourier) : program.model.NumSteps;
 }
 
 std::int16_t Rows_Apart(const LinkageModel& model) {
@@ -43,6 +42,10 @@ std::string Value_Text(const Program& program, std::int16_t step, std::int16_t k
 const std::string& Table_Unit(const Program& program, std::int16_t k) {
     const std::int16_t code = program.selections.SelTable(k);
     return code == table_code::FFTTable ? program.fourier.FFTUnit : program.model.UnitText(code);
+}
+
+std::string Transform_Title(const Program& program) {
+    return "Fourier Transform of  " + program.fourier.FFTFunctionName;
 }
 
 ColumnHead Head_Of_Column(const Program& program, const SlotLabels& labels, std::int16_t k) {

@@ -40,6 +40,9 @@ std::string Value_Text(const Program& program, std::int16_t step, std::int16_t k
 /// function behind it.
 const std::string& Table_Unit(const Program& program, std::int16_t k);
 
+/// Title of a table or plot of the current Fourier function.
+std::string Transform_Title(const Program& program);
+
 struct ColumnHead {
     std::string function;
     std::string component;

@@ -136,7 +136,7 @@ void Make_Headers(Program& program) {
     TableOutput& output = program.output;
     output.HeaderLine1 = "Selected Linkage Parameters";
     if (selections.SelFFT)
-        output.HeaderLine2 = "Fourier Transform of  " + program.fourier.FFTFunctionName;
+        output.HeaderLine2 = Transform_Title(program);
     else if (selections.LocalCoords == 0 || selections.LocalCoords == 2)
         output.HeaderLine2.clear();
     if (mode == 3)

@@ -4,14 +4,9 @@
 
 #include <cstdint>
 
-#include "core/picture.h"
+#include "core/colours.h"
 
 namespace kervol {
-
-/// The named drawing colours.
-struct ColourTable {
-    Colour red, green, blue, purple, white, black, cyan, yellow, grey, magenta;
-};
 
 /// Lengths and coordinates are in world units of the picture, user frame.
 struct AnimationState {

@@ -48,11 +48,13 @@ void Chart::Clear_Data() {
     for (ChartSet& set : look.sets) {
         std::fill(set.GraphData.begin(), set.GraphData.end(), 0.0F);
         std::fill(set.XPosData.begin(), set.XPosData.end(), 0.0F);
+        set.filled = false;
     }
 }
 
 void Chart::Put_GraphData(float y) {
     Entry(Set().GraphData, ThisPoint) = y;
+    Set().filled = true;
 }
 
 void Chart::Put_XPosData(float x) {

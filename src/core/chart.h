@@ -21,6 +21,7 @@ struct ChartSet {
     bool ThickLines{};
     std::vector<float> GraphData;  ///< y by point
     std::vector<float> XPosData;   ///< x by point; of a polar chart alone
+    bool filled{};                 ///< values were put into it; a set without them is not drawn
 
     bool operator==(const ChartSet&) const = default;
 };
@@ -51,6 +52,8 @@ struct ChartLook {
     std::int16_t DrawMode{};      ///< 2 once it has been loaded
     std::int16_t GridStyle{};     ///< 1 horizontal lines, 2 vertical ones, 3 both
     std::int16_t GraphStyle{};    ///< 2 lines, 4 sticks or fills, 6 both; 0 as 2
+    bool sticks{};                ///< styles 4 and 6 draw a stick at each point, else they fill down to 0
+    bool polar{};                 ///< a point stands at (`XPosData`, `GraphData`)
     std::int16_t TickEvery = 1;   ///< points from tick to tick
     std::int16_t LabelEvery = 1;  ///< points from label to label
     std::int16_t background = chart_background::White;

@@ -18,8 +18,6 @@ using Event = std::function<void()>;
 struct Control {
     bool enabled = true;
     bool visible = true;
-    /// Why the control stays disabled whatever `enabled` says; empty for one that works.
-    std::string unavailable;
 };
 
 struct Label : Control {

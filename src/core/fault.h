@@ -42,6 +42,18 @@ std::string_view Fault_Description(std::int32_t number);
 
 [[noreturn]] void Raise(std::int32_t number);
 
+/// Runs a body that may be refused: true if it raised the fault of that number. Any other goes on.
+template <class Body>
+bool Refuses(std::int32_t number, Body&& body) {
+    try {
+        body();
+        return false;
+    } catch (const Fault& fault) {
+        if (fault.number != number) throw;
+        return true;
+    }
+}
+
 /// Runs the body of a small routine whose faults carry the routine's own name instead of its caller's.
 template <class Body>
 decltype(auto) Routine(const char* name, Body&& body) {

@@ -22,10 +22,6 @@ void Grid::Resize(int rows, int columns) {
     columns_ = columns;
 }
 
-void Grid::Clear() {
-    std::fill(texts_.begin(), texts_.end(), std::string());
-}
-
 std::string& Grid::operator()(int row, int column) {
     return texts_[Place(row, column)];
 }
@@ -38,6 +34,11 @@ std::size_t Grid::Place(int row, int column) const {
     if (row < 0 || row >= rows_ || column < 0 || column >= columns_) Raise(fault::Subscript);
     return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
            static_cast<std::size_t>(column);
+}
+
+void Clear_Grid(Grid& grid) {
+    for (int row = 0; row < grid.Rows(); ++row)
+        for (int column = 0; column < grid.Columns(); ++column) grid(row, column).clear();
 }
 
 }  // namespace kervol

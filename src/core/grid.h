@@ -19,8 +19,6 @@ class Grid {
 
     /// Cells that stay within keep their texts, new ones are empty. Fault 5 for a negative number.
     void Resize(int rows, int columns);
-    /// Empties every cell; the size stays.
-    void Clear();
     /// Text of a cell, from 0; fault 9 outside.
     std::string& operator()(int row, int column);
     const std::string& operator()(int row, int column) const;
@@ -32,5 +30,8 @@ class Grid {
     int columns_ = 0;
     std::vector<std::string> texts_;  ///< row by row
 };
+
+/// Empties every cell; the size stays.
+void Clear_Grid(Grid& grid);
 
 }  // namespace kervol

@@ -137,6 +137,10 @@ std::string Plain_Number(double value) {
     return Shortest(value);
 }
 
+std::string Short_Number(double value, int digits) {
+    return Plain_Number(To_Double(Digits(value, std::chars_format::scientific, digits - 1)));
+}
+
 std::string With_Sign_Blank(int value) {
     return (value < 0 ? "" : " ") + std::to_string(value);
 }

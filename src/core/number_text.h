@@ -14,6 +14,9 @@ namespace kervol {
 std::string Plain_Number(float value);
 std::string Plain_Number(double value);
 
+/// The plain number of the value rounded to that many significant digits.
+std::string Short_Number(double value, int digits);
+
 /// A plain number with the leading blank that stands for the sign, as some texts and files have it.
 std::string With_Sign_Blank(int value);
 std::string With_Sign_Blank(float value);

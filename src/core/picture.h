@@ -12,12 +12,17 @@ struct Colour {
     bool operator==(const Colour&) const = default;
 };
 
+/// Fault 5 for a world window that no picture takes: without an extent, or with a bound beyond single
+/// precision.
+void Check_Scale(double left, double top, double right, double bottom);
+
 class Picture {
   public:
     virtual ~Picture() = default;
 
     virtual void Clear() = 0;
-    /// The world window: left and top, then right and bottom. Fault 5 for a window without an extent.
+    /// The world window: left and top, then right and bottom. Fault 5, and the window as it was, for one that
+    /// `Check_Scale` refuses.
     virtual void Set_Scale(double left, double top, double right, double bottom) = 0;
     virtual void Set_Background(Colour colour) = 0;
 

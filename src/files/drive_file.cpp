@@ -116,6 +116,12 @@ void Read_Cam_Fields(Program& program, std::int16_t source, ValueReader& file) {
     file.Skip(30);
 }
 
+/// The tables were those of another drive, and are mixed with this one where its reading stops half-way.
+void Forget_Results(Model& model) {
+    model.DataCalculated = false;
+    model.DynamicsCalculated = false;
+}
+
 /// What follows on a drive that was read whole; `kind` names its data in the box.
 void Show_Drive(Program& program, const std::string& kind, Icon icon) {
     if (program.model.StartingUp) return;
@@ -151,7 +157,7 @@ ReadEnd Read_Cam_Data(Program& program, ValueReader& file) {
             return;
         }
         end = ReadEnd::Cut;
-        model.DynamicsCalculated = false;
+        Forget_Results(model);
         Read_Cam_Fields(program, source, file);
         file.Read(model.NumSteps);
         Read_Drive_Rows(program, file);
@@ -171,7 +177,7 @@ ReadEnd Import_Linkage_Data(Program& program, ValueReader& file) {
     Procedure(program, "Import_Linkage_Data", [&] {
         file.Read(model.NumSteps);
         end = ReadEnd::Cut;
-        model.DynamicsCalculated = false;
+        Forget_Results(model);
         Read_Plain_Fields(kTimes, model, file);
         Read_Drive_Rows(program, file);
         model.LinkDriven = true;

@@ -13,7 +13,8 @@ namespace kervol {
 /// Takes a cam's drive, and with it the linkage and its mass data where the file has them; mode 4 from then
 /// on. Shows that it was read and opens the Input screen, unless the program is starting up. A file for the
 /// sibling program with four links is refused with a box and changes nothing. A fault leaves what was read
-/// until then, the mode and `CamDriven` as they were.
+/// until then, the mode and `CamDriven` as they were. Results of before count as out of date from the first
+/// number that was taken.
 ReadEnd Read_Cam_Data(Program& program, ValueReader& file);
 
 /// Takes the link output of another linkage as the drive; mode 5 from then on. Boxes, screen and faults as

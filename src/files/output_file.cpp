@@ -86,6 +86,8 @@ FileHandle Opened_Keeping_Content(const std::string& name) {
     Check_Writable(path, status);
     struct stat old {};
     if (stat(path.c_str(), &old) != 0) Raise(Fault_Of_System_Error(errno));
+    // What a full disk leaves behind must not push out what was kept before it.
+    if (old.st_size == 0) return Opened_Or_Fault(path);
     fs::path kept = path;
     kept += "~";
     const bool owner_stays = old.st_uid == geteuid() || geteuid() == 0;

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "headless/recording_picture.h"
 
-#include "core/arithmetic.h"
-#include "core/fault.h"
-
 namespace kervol {
 
 void RecordingPicture::Clear() {
@@ -12,7 +9,7 @@ void RecordingPicture::Clear() {
 }
 
 void RecordingPicture::Set_Scale(double left, double top, double right, double bottom) {
-    if (Is_Same(left, right) || Is_Same(top, bottom)) Raise(fault::InvalidCall);
+    Check_Scale(left, top, right, bottom);
     drawn.push_back({Drawn::Kind::Scale, left, top, right, bottom});
 }
 

@@ -2,48 +2,22 @@
 #include "headless/svg_picture.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <string_view>
 #include <unordered_set>
 
 #include "core/arithmetic.h"
-#include "core/fault.h"
+#include "core/markup_text.h"
 
 namespace kervol {
 namespace {
 
 constexpr double kPenWidth = 1.5;   // pixels
 constexpr double kDotRadius = 1.2;  // pixels
-constexpr int kDecimals = 2;        // of a pixel
 constexpr Colour kWhite = {255, 255, 255};
 
 /// What ends an element; a path takes more points in front of it.
 constexpr std::string_view kEnd = "\"/>\n";
-
-/// Room for any double in fixed form.
-constexpr std::size_t kLongestNumber = 400;
-
-/// Fixed form without trailing zeros, the same in every locale.
-std::string Number(double value) {
-    std::array<char, kLongestNumber> buffer;
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                   std::chars_format::fixed, kDecimals);
-    std::string text(buffer.data(), end.ptr);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.') text.pop_back();
-    return text == "-0" ? "0" : text;
-}
-
-std::string Colour_Text(Colour colour) {
-    std::array<char, 8> buffer;
-    static_cast<void>(std::snprintf(buffer.data(), buffer.size(), "#%02x%02x%02x",
-                                    static_cast<unsigned>(colour.red), static_cast<unsigned>(colour.green),
-                                    static_cast<unsigned>(colour.blue)));
-    return buffer.data();
-}
 
 }  // namespace
 
@@ -56,7 +30,7 @@ void SvgPicture::Clear() {
 }
 
 void SvgPicture::Set_Scale(double left, double top, double right, double bottom) {
-    if (Is_Same(left, right) || Is_Same(top, bottom)) Raise(fault::InvalidCall);
+    Check_Scale(left, top, right, bottom);
     const bool same = Is_Same(left, window_.left) && Is_Same(top, window_.top) &&
                       Is_Same(right, window_.right) && Is_Same(bottom, window_.bottom);
     if (!same) Clear();
@@ -100,7 +74,7 @@ std::string SvgPicture::Text() const {
     std::string text = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + side + "\" height=\"" + side +
                        "\" viewBox=\"0 0 " + side + " " + side + "\">\n<rect width=\"" + side +
                        "\" height=\"" + side + "\" fill=\"" + Colour_Text(background_) +
-                       "\"/>\n<g fill=\"none\" stroke-width=\"" + Number(kPenWidth) +
+                       "\"/>\n<g fill=\"none\" stroke-width=\"" + Fixed_Number(kPenWidth) +
                        "\" stroke-linecap=\"round\" stroke-linejoin=\"round\">\n";
     for (const std::string_view element : Visible_Elements()) text += element;
     return text + "</g>\n</svg>\n";
@@ -116,17 +90,17 @@ std::vector<std::string_view> SvgPicture::Visible_Elements() const {
 }
 
 void SvgPicture::Put_Circle(double x, double y, double pixels, const char* paint, Colour colour) {
-    elements_.push_back("<circle cx=\"" + Across(x) + "\" cy=\"" + Down(y) + "\" r=\"" + Number(pixels) +
-                        "\" " + paint + "=\"" + Colour_Text(colour));
+    elements_.push_back("<circle cx=\"" + Across(x) + "\" cy=\"" + Down(y) + "\" r=\"" +
+                        Fixed_Number(pixels) + "\" " + paint + "=\"" + Colour_Text(colour));
     elements_.back() += kEnd;
 }
 
 std::string SvgPicture::Across(double x) const {
-    return Number((x - window_.left) * side_ / (window_.right - window_.left));
+    return Fixed_Number((x - window_.left) * side_ / (window_.right - window_.left));
 }
 
 std::string SvgPicture::Down(double y) const {
-    return Number((y - window_.top) * side_ / (window_.bottom - window_.top));
+    return Fixed_Number((y - window_.top) * side_ / (window_.bottom - window_.top));
 }
 
 std::string SvgPicture::Position(double x, double y) const {

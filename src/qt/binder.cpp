@@ -19,6 +19,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "qt/chart_widget.h"
+#include "qt/choice_box.h"
 #include "qt/data_table.h"
 #include "qt/pick_list.h"
 #include "qt/plot_kind_picture.h"
@@ -44,10 +46,6 @@ bool Is_Passing(const QEvent& event) {
            reason == Qt::MenuBarFocusReason;
 }
 
-bool Works(const Control& control) {
-    return control.enabled && control.unavailable.empty();
-}
-
 void Colour_Text(QWidget& widget, Colour colour) {
     const QColor shown(colour.red, colour.green, colour.blue);
     QPalette palette = widget.palette();
@@ -58,7 +56,7 @@ void Colour_Text(QWidget& widget, Colour colour) {
 
 /// Names that the toolkit itself or a part of a form without a record may carry.
 bool Is_Own_Name(const QString& name) {
-    return name.isEmpty() || name.startsWith("qt_") || name == "Picture1";
+    return name.isEmpty() || name.startsWith("qt_") || name == "Picture1" || name.startsWith("pct_Plot_");
 }
 
 void Put_Items(QComboBox& box, const std::vector<std::string>& items) {
@@ -92,16 +90,15 @@ Widget* Binder::Take(const std::string& name) {
 
 template <class Widget>
 void Binder::Push_Common(Widget& widget, const Control& control) const {
-    widget.setEnabled(Works(control));
+    widget.setEnabled(control.enabled);
     widget.setVisible(control.visible);
-    if (!control.unavailable.empty()) widget.setToolTip(Qt_Text(control.unavailable));
 }
 
 void Binder::Act(const Control& control, const Event& event) {
     if (pushing_) return;
     Leave_Field();
     // Leaving the field may have taken the control away.
-    if (Works(control)) run_(event);
+    if (control.enabled) run_(event);
 }
 
 void Binder::Add(const std::string& name, Label& label) {
@@ -245,16 +242,17 @@ void Binder::Add(const std::string& name, ScrollBar& bar) {
     });
 }
 
-void Binder::Add_List(PickList& widget, ComboBox& box) {
-    const auto act = [this, &box](Event ComboBox::*event) {
-        return [this, &box, event](const std::string& text) {
-            Leave_Field();
-            box.text = text;
-            Act(box, box.*event);
-        };
+std::function<void(const std::string&)> Binder::Picking(ComboBox& box, Event ComboBox::*event) {
+    return [this, &box, event](const std::string& text) {
+        Leave_Field();
+        box.text = text;
+        Act(box, box.*event);
     };
-    widget.picked = act(&ComboBox::click);
-    widget.picked_twice = act(&ComboBox::double_click);
+}
+
+template <class List>
+void Binder::Push_List(List& widget, ComboBox& box) {
+    widget.picked = Picking(box, &ComboBox::click);
     Push_Later([this, &widget, &box] {
         widget.Show(box.items, box.text);
         Push_Common(widget, box);
@@ -275,10 +273,28 @@ void Binder::Add(const std::string& name, Grid& grid) {
     Push_Later([widget, &grid] { widget->Show(grid); });
 }
 
+void Binder::Add(const std::string& name, Chart& chart) {
+    auto* widget = Take<ChartWidget>(name);
+    if (widget == nullptr) return;
+    widget->clicked = [this, &chart] { Act(chart, chart.click); };
+    Push_Later([this, widget, &chart] {
+        widget->Show(chart.look);
+        Push_Common(*widget, chart);
+    });
+}
+
 void Binder::Add(const std::string& name, ComboBox& box) {
-    if (auto* list = form_.findChild<PickList*>(Qt_Text(name))) {
+    // Searching by type would take every box of the toolkit for one of ours.
+    auto* found = form_.findChild<QWidget*>(Qt_Text(name));
+    if (auto* list = dynamic_cast<PickList*>(found)) {
         names_.insert(name);
-        return Add_List(*list, box);
+        list->picked_twice = Picking(box, &ComboBox::double_click);
+        return Push_List(*list, box);
+    }
+    if (auto* choice = dynamic_cast<ChoiceBox*>(found)) {
+        names_.insert(name);
+        choice->typed = [&box](const std::string& text) { box.text = text; };
+        return Push_List(*choice, box);
     }
     auto* widget = Take<QComboBox>(name);
     if (widget == nullptr) return;
@@ -342,6 +358,7 @@ void Binder::Push() {
 void Binder::Leave_Field() {
     if (entered_.record == nullptr || pushing_) return;
     const Field left = std::exchange(entered_, {});
+    typed_ = left.record->put_value ? nullptr : left.record;
     run_(left.record->lost_focus);
 }
 
@@ -354,6 +371,9 @@ void Binder::Set_Focus(std::string_view name) {
     widget->setFocus(Qt::OtherFocusReason);
     placing_ = false;
     if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
+    // What was put in the place of a refused entry counts as entered.
+    for (const Field& field : fields_)
+        if (field.widget == widget && field.record == typed_ && field.record->put_value) entered_ = field;
 }
 
 bool Binder::Field_Event(const Field& field, QEvent* event) {

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/chart.h"
 #include "core/controls.h"
 #include "core/grid.h"
 
@@ -21,8 +22,6 @@ class QLineEdit;
 class QWidget;
 
 namespace kervol {
-
-class PickList;
 
 /// A caption as a widget shows it: as it stands, with line breaks of either kind.
 QString Shown_Caption(const std::string& caption);
@@ -43,10 +42,11 @@ class Binder : public QObject {
     void Add(const std::string& name, Frame& frame);
     void Add(const std::string& name, CheckBox& box);
     void Add(const std::string& name, ScrollBar& bar);
-    /// Shown by a combo box, or by a list, of which alone the picks are events.
+    /// Shown by a combo box, or by a list, also one that drops down, of which alone the picks are events.
     void Add(const std::string& name, ComboBox& box);
     void Add(const std::string& name, PictureBox& picture);
     void Add(const std::string& name, Grid& grid);
+    void Add(const std::string& name, Chart& chart);
     void Add(const std::string& name, MenuItem& item);
     template <std::size_t count>
     void Add(const std::string& name, std::array<OptionButton, count>& group) {
@@ -77,7 +77,10 @@ class Binder : public QObject {
         QLineEdit* widget = nullptr;
     };
 
-    void Add_List(PickList& widget, ComboBox& box);
+    /// Takes the text of a list into the record and raises the event.
+    std::function<void(const std::string& text)> Picking(ComboBox& box, Event ComboBox::*event);
+    template <class List>
+    void Push_List(List& widget, ComboBox& box);
     void Add_Options(const std::string& name, OptionButton* options, std::size_t count);
     template <class Widget>
     Widget* Take(const std::string& name);
@@ -95,6 +98,7 @@ class Binder : public QObject {
     std::vector<std::function<void()>> pushes_;
     std::vector<Field> fields_;
     Field entered_;
+    const TextField* typed_ = nullptr;  ///< the field that was left last, if it was left as typed
     bool pushing_ = false;
     bool placing_ = false;     ///< the program moves the focus
     bool clicked_in_ = false;  ///< the mouse button that brought a field the focus is still down

@@ -21,6 +21,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 
 void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
     if (any_click_closes && close_asked) return close_asked();
+    if (clicked && event->button() == Qt::LeftButton) return clicked();
     QWidget::mouseReleaseEvent(event);
 }
 

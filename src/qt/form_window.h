@@ -4,13 +4,16 @@
 
 #include <QWidget>
 #include <functional>
+#include <span>
 
 #include "core/model.h"
 
 namespace kervol {
 
 class PictureList;
+struct PlotKind;
 struct SelectionKind;
+struct Sheet;
 
 class FormWindow : public QWidget {
   public:
@@ -18,6 +21,10 @@ class FormWindow : public QWidget {
     std::function<void()> close_asked;
     /// Shows what stands on the form beyond the controls of its record. Runs whenever the records are shown.
     std::function<void(const LinkageModel& model)> refresh;
+    /// Asks for a file and writes the sheet there as a picture.
+    std::function<void(const Sheet& sheet)> save_picture;
+    /// A click beside all controls.
+    std::function<void()> clicked;
     QWidget* first_focus = nullptr;
     bool escape_closes = true;
     bool any_click_closes = false;
@@ -40,8 +47,13 @@ void Lay_Out_Matrix(FormWindow& form);
 void Lay_Out_About(FormWindow& form);
 void Lay_Out_Plot_Type(FormWindow& form);
 void Lay_Out_Plot_Select(FormWindow& form, const SelectionKind& kind);
+void Lay_Out_Charts(FormWindow& form, const PlotKind& kind);
+void Lay_Out_Own_Plots(FormWindow& form, const PlotKind& kind, std::span<PictureList> pictures);
+void Lay_Out_Polar_Plot(FormWindow& form, const PlotKind& kind, PictureList& picture);
 void Lay_Out_Print_Select(FormWindow& form);
 void Lay_Out_Print_Data(FormWindow& form);
+void Lay_Out_Flywheel(FormWindow& form);
+void Lay_Out_FFT(FormWindow& form);
 void Lay_Out_Self_Check(FormWindow& form);
 void Lay_Out_Quit(FormWindow& form);
 

@@ -63,6 +63,8 @@ QMenuBar* New_Menus(QWidget* parent) {
     Add_Entries(Add_Menu(file, "mnu_Export"), {"mnu_Export_Link_Data", "mnu_Export_Torque"});
     Add_Entries(Add_Menu(file, "mnu_Import"), {"mnu_Import_SVA", "mnu_Import_Link2_Drive_Data"});
     file->addSeparator();
+    Add_Entries(file, {"mnu_Report"});
+    file->addSeparator();
     Add_Entries(file, {"mnu_Quit"});
     Add_Units(Add_Menu(bar, "mnu_Units"));
     Add_Entries(Add_Menu(bar, "mnu_Examples"), {"mnu_Test", "mnu_Hoeken", "mnu_Roberts", "mnu_Double"});

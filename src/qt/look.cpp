@@ -2,10 +2,15 @@
 #include "qt/look.h"
 
 #include <QApplication>
-#include <QPalette>
+#include <QProxyStyle>
 
 namespace kervol {
 namespace {
+
+// How much a disabled text, and the marked row of a disabled list, stand out from the ground; 1 as enabled
+// text.
+constexpr double kTextShare = 0.55;
+constexpr double kMarkShare = 0.3;
 
 QColor Mixed(const QColor& one, const QColor& other, double share) {
     const auto mix = [share](double a, double b) { return static_cast<float>(a * share + b * (1 - share)); };
@@ -13,21 +18,37 @@ QColor Mixed(const QColor& one, const QColor& other, double share) {
                             mix(one.blueF(), other.blueF()));
 }
 
+/// Long lists drop down below their box, instead of over the whole height of the screen.
+class DropDownStyle : public QProxyStyle {
+  public:
+    DropDownStyle() : QProxyStyle("Fusion") {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
 }  // namespace
 
-void Set_Look() {
-    QApplication::setStyle("Fusion");
-    const QPalette desktop = QApplication::palette();
-    // Only these roles are set; all others go on following the desktop.
+QPalette Readable_Roles(const QPalette& desktop) {
+    const auto active = [&desktop](QPalette::ColorRole role) {
+        return desktop.color(QPalette::Active, role);
+    };
     QPalette readable;
-    constexpr double kTextShare = 0.55;
     for (const auto& [text, ground] :
          {std::pair(QPalette::WindowText, QPalette::Window),
           std::pair(QPalette::ButtonText, QPalette::Button), std::pair(QPalette::Text, QPalette::Base)})
-        readable.setColor(QPalette::Disabled, text,
-                          Mixed(desktop.color(QPalette::Active, text),
-                                desktop.color(QPalette::Active, ground), kTextShare));
-    QApplication::setPalette(readable);
+        readable.setColor(QPalette::Disabled, text, Mixed(active(text), active(ground), kTextShare));
+    readable.setColor(QPalette::Disabled, QPalette::Highlight,
+                      Mixed(active(QPalette::Text), active(QPalette::Base), kMarkShare));
+    readable.setColor(QPalette::Disabled, QPalette::HighlightedText, active(QPalette::Text));
+    return readable;
+}
+
+void Set_Look() {
+    QApplication::setStyle(new DropDownStyle);
+    QApplication::setPalette(Readable_Roles(QApplication::palette()));
 }
 
 }  // namespace kervol

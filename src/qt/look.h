@@ -2,9 +2,15 @@
 // The look that all windows share.
 #pragma once
 
+#include <QPalette>
+
 namespace kervol {
 
-/// One style on every system, in the colours of the desktop; disabled texts dark enough to be read.
+/// The colours of what is disabled, strong enough to be read on the desktop's grounds: texts and the marked
+/// row of a list. All other roles are unset, so that they go on following the desktop.
+QPalette Readable_Roles(const QPalette& desktop);
+
+/// One style on every system, in the colours of the desktop but for the readable ones.
 void Set_Look();
 
 }  // namespace kervol

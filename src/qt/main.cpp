@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <memory>
 
+#include "files/association.h"
 #include "qt/icon.h"
 #include "qt/look.h"
 #include "qt/qt_port.h"
@@ -39,6 +40,9 @@ int main(int argc, char** argv) {
 
     auto run = std::make_unique<Run>();
     run->port.Attach(run->screens);
-    QTimer::singleShot(0, [&run, line = Command_Line(argc, argv)] { kervol::Launch(run->screens, line); });
+    QTimer::singleShot(0, [&run, line = Command_Line(argc, argv)] {
+        kervol::Associate(kervol::Users_Desktop(), "Kervol", "kvl");
+        kervol::Launch(run->screens, line);
+    });
     return QApplication::exec();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/pick_list.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <algorithm>
@@ -76,13 +77,35 @@ bool PickList::event(QEvent* event) {
     return QListWidget::event(event);
 }
 
+/// As long as the toolkit's own search takes letters for parts of one word.
+bool PickList::Is_Typing() const {
+    return !typed_.isEmpty() && !since_typed_.hasExpired(QApplication::keyboardInputInterval());
+}
+
+bool PickList::Is_Blank_In_Entry() const {
+    return Is_Typing() && std::any_of(items_.begin(), items_.end(), [this](const std::string& item) {
+               return QString::fromStdString(item).startsWith(typed_ + ' ', Qt::CaseInsensitive);
+           });
+}
+
+/// A key that writes nothing may be the shift key of the next letter.
+void PickList::Note_Typed(const QString& text) {
+    if (text.isEmpty()) return;
+    typed_ = Is_Typing() ? typed_ + text : text;
+    since_typed_.start();
+}
+
 void PickList::keyPressEvent(QKeyEvent* event) {
-    const bool picks =
-        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+    const int key = event->key();
+    const bool blank = key == Qt::Key_Space && Is_Blank_In_Entry();
+    const bool picks = key == Qt::Key_Return || key == Qt::Key_Enter || (key == Qt::Key_Space && !blank);
     const bool at_start = selectedItems().isEmpty() && currentRow() <= 0;
+    Note_Typed(event->text());
     if (picks)
         Pick_Current();
-    else if (event->key() == Qt::Key_Down && at_start)
+    else if (blank)
+        keyboardSearch(event->text());
+    else if (key == Qt::Key_Down && at_start)
         setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
     else
         QListWidget::keyPressEvent(event);

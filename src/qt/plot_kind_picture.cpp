@@ -29,7 +29,7 @@ struct PlotKind {
     bool annotated;
 };
 
-/// By picture: one function or four; charts with their grid beside plain plots; rays or envelopes.
+/// By picture: one function or four; charts with their grid beside aligned plots; rays or envelopes.
 constexpr std::array<PlotKind, 8> kKinds = {{{1, 1, Shape::Curves, 1, true},
                                              {1, 1, Shape::Curves, 4, true},
                                              {2, 1, Shape::Curves, 1, true},

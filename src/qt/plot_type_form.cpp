@@ -22,8 +22,8 @@ struct KindTexts {
 constexpr std::array<KindTexts, 4> kKinds = {
     {{"All functions over one axis, in one chart.",
       {"One function in one window", "Four functions in one window"}},
-     {"One above the other, one function each.", {"Two annotated windows", "Two plain windows"}},
-     {"Two by two, one function each.", {"Four annotated windows", "Four plain windows"}},
+     {"One above the other, one function each.", {"Two annotated windows", "Two aligned windows"}},
+     {"Two by two, one function each.", {"Four annotated windows", "Four aligned windows"}},
      {"Magnitude and angle of vectors around the origin.",
       {"Vectors as rays", "Envelopes of four vectors"}}}};
 

@@ -5,9 +5,11 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
+#include <algorithm>
 #include <array>
 
 #include "qt/file_filter.h"
@@ -69,9 +71,42 @@ QString Text_Of_Box(const std::string& text) {
     return Qt_Text(text).replace("\r\n", "\n").replace('\r', '\n');
 }
 
+/// A box breaks lines that are not very long once more; texts are broken where they should be.
+void Keep_Lines(QMessageBox& box) {
+    constexpr int kWidest = 640;
+    auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+    if (label == nullptr) return;
+    const int width = label->fontMetrics().size(0, box.text()).width();
+    label->setMinimumWidth(std::min(width, kWidest));
+}
+
+/// The ending that the patterns of a name filter ask for; empty where they take any.
+QString Suffix_Of(const QString& filter) {
+    const qsizetype open = filter.lastIndexOf("(*.");
+    const QString suffix = open < 0 ? QString() : filter.mid(open + 3, filter.size() - open - 4);
+    return suffix.contains(' ') || suffix.contains('*') ? QString() : suffix;
+}
+
+/// Another kind of file is chosen: the name that stands in the dialog takes its ending.
+void Follow_Filter(QFileDialog& dialog, const QString& filter) {
+    const QString suffix = Suffix_Of(filter);
+    if (suffix.isEmpty()) return;
+    dialog.setDefaultSuffix(suffix);
+    auto* field = dialog.findChild<QLineEdit*>();
+    if (field == nullptr || field->text().isEmpty()) return;
+    const QFileInfo named(field->text());
+    field->setText(field->text().chopped(named.suffix().isEmpty() ? 0 : named.suffix().size() + 1) + "." +
+                   suffix);
+}
+
 QString Folder_Of(const std::string& path) {
     const QFileInfo file(Qt_Text(path));
     return path.empty() || !file.dir().exists() ? QString() : file.absolutePath();
+}
+
+/// The keys go to the form again, where no window manager sees to that.
+void Bring_Back(QWidget* form) {
+    if (form != nullptr) form->activateWindow();
 }
 
 /// A box that a lost focus brought up by a click on a button takes the release of the mouse. The press
@@ -96,14 +131,14 @@ Answer QtPort::Show_Message(const MessageBox& box) {
     shown.setWindowTitle(Qt_Text(screens_->program.model.ProgramTitle));
     shown.setTextFormat(Qt::PlainText);
     shown.setText(Text_Of_Box(box.text));
+    Keep_Lines(shown);
     shown.setIcon(Qt_Icon(box.icon));
     shown.setStandardButtons(Qt_Buttons(box.buttons));
     shown.setDefaultButton(Button_Of(box.preset));
     // Escape must not abandon a run.
     if (box.buttons == Buttons::AbortRetryIgnore) shown.setEscapeButton(Button_Of(box.preset));
     const int pressed = shown.exec();
-    // Where no window manager does it.
-    if (QWidget* front = Front_Window()) front->activateWindow();
+    Bring_Back(Front_Window());
     if (busy) Set_Pointer(Pointer::Busy);
     Release_Stuck_Buttons(Front_Window());
     for (const AnswerButton& pair : kAnswers)
@@ -124,10 +159,16 @@ std::optional<std::string> QtPort::Ask_File(const FileDialog& dialog, bool savin
     shown.setDirectory(folder);
     const QString name = Qt_Text(dialog.name);
     shown.selectFile(name);
-    if (saving) shown.setDefaultSuffix(QFileInfo(name).suffix());
+    if (saving) {
+        shown.setDefaultSuffix(QFileInfo(name).suffix());
+        QObject::connect(&shown, &QFileDialog::filterSelected, &shown,
+                         [&shown](const QString& filter) { Follow_Filter(shown, filter); });
+    }
     // What is typed takes the place of the proposal.
     if (auto* field = shown.findChild<QLineEdit*>()) QTimer::singleShot(0, field, &QLineEdit::selectAll);
-    if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) return std::nullopt;
+    const int pressed = shown.exec();
+    Bring_Back(Front_Window());
+    if (pressed != QDialog::Accepted || shown.selectedFiles().isEmpty()) return std::nullopt;
     last_folder_ = shown.directory().absolutePath().toStdString();
     return QDir::toNativeSeparators(shown.selectedFiles().first()).toStdString();
 }

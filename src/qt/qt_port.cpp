@@ -5,12 +5,16 @@
 #include <QEventLoop>
 #include <QLineEdit>
 #include <QScreen>
+#include <stdexcept>
 #include <utility>
 
+#include "plots/plot_sheets.h"
+#include "qt/picture_menu.h"
 #include "qt/wide_registers.h"
 #include "screens/control_lists.h"
 #include "screens/input_events.h"
 #include "screens/launch_screens.h"
+#include "screens/plot_events.h"
 
 namespace kervol {
 namespace {
@@ -23,6 +27,11 @@ void Place(FormWindow& window) {
     const QSize wanted = (room.size() * window.screen_share).expandedTo(window.sizeHint());
     if (!window.testAttribute(Qt::WA_Moved)) window.resize(wanted.boundedTo(room.size()));
     window.move(room.center() - window.rect().center());
+}
+
+/// A page for the picture and the labels around it.
+PageSize Page_Of(const QWidget& picture) {
+    return {double(picture.width()) + 140, double(picture.height()) + 90};
 }
 
 /// Whether a modal screen leaves the modal one that opened it visible. Over Home all do.
@@ -40,6 +49,9 @@ void QtPort::Attach(Screens& screens) {
     screens_ = &screens;
     screens.frm_Inputnew.Picture1 = &input_picture_;
     screens.frm_Animate.Picture1 = &animate_picture_;
+    screens.frm_MyPlot4.pct_Plot[0] = &polar_picture_;
+    for (std::size_t i = 0; i < two_plots_.size(); ++i) screens.frm_Myplot2.pct_Plot[i] = &two_plots_[i];
+    for (std::size_t i = 0; i < four_plots_.size(); ++i) screens.frm_MyPlot3.pct_Plot[i] = &four_plots_[i];
 }
 
 void QtPort::Run(const Event& event) {
@@ -113,16 +125,68 @@ void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
             return Lay_Out_And_Bind(form, screens_->frm_PlotSelect3);
         case ScreenId::frm_PlotSelect4:
             return Lay_Out_And_Bind(form, screens_->frm_PlotSelect4);
+        case ScreenId::frm_Plot1:
+            return Lay_Out_And_Bind(form, screens_->frm_Plot1);
+        case ScreenId::frm_Plot2:
+            return Lay_Out_And_Bind(form, screens_->frm_Plot2);
+        case ScreenId::frm_Plot3:
+            return Lay_Out_And_Bind(form, screens_->frm_Plot3);
+        case ScreenId::frm_Plot4:
+            return Lay_Out_And_Bind(form, screens_->frm_Plot4);
+        case ScreenId::frm_Myplot2:
+            return Lay_Out_And_Bind(form, screens_->frm_Myplot2, two_plots_);
+        case ScreenId::frm_MyPlot3:
+            return Lay_Out_And_Bind(form, screens_->frm_MyPlot3, four_plots_);
+        case ScreenId::frm_MyPlot4:
+            return Lay_Out_And_Bind(form, screens_->frm_MyPlot4);
         case ScreenId::frm_PrintSelect:
             Lay_Out_Print_Select(*form.window);
             return Bind(form, screens_->frm_PrintSelect);
         case ScreenId::frm_PrintData:
             Lay_Out_Print_Data(*form.window);
             return Bind(form, screens_->frm_PrintData);
+        case ScreenId::frm_Flywheel:
+            Lay_Out_Flywheel(*form.window);
+            return Bind(form, screens_->frm_Flywheel);
+        case ScreenId::frm_FFT:
+            Lay_Out_FFT(*form.window);
+            return Bind(form, screens_->frm_FFT);
         case ScreenId::frm_SelfCheck:
             Lay_Out_Self_Check(*form.window);
             return Bind(form, screens_->frm_SelfCheck);
     }
+}
+
+void QtPort::Lay_Out_And_Bind(OpenForm& form, ChartScreen& screen) {
+    Lay_Out_Charts(*form.window, screen.kind);
+    Bind(form, screen);
+    form.window->clicked = [this, &screen] { Run(screen.click); };
+}
+
+void QtPort::Lay_Out_And_Bind(OpenForm& form, OwnPlotScreen& screen, std::span<PictureList> pictures) {
+    Lay_Out_Own_Plots(*form.window, screen.kind, pictures);
+    Bind(form, screen);
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        auto* picture = form.window->findChild<QWidget*>("pct_Plot_" + QString::number(i));
+        const auto sheet = [picture, &screen, &list = pictures[i], i] {
+            const PictureList* const lists[] = {&list};
+            return Own_Plot_Sheet(screen, screen.kind.plots, i, lists, Page_Of(*picture));
+        };
+        const auto values = [this, &screen] {
+            return Plot_Values(screens_->program, Selection_Of(*screens_, screen), screen.kind.plots);
+        };
+        Offer_Picture_Menu(*picture, {sheet, values});
+    }
+}
+
+void QtPort::Lay_Out_And_Bind(OpenForm& form, PolarPlotScreen& screen) {
+    Lay_Out_Polar_Plot(*form.window, screen.kind, polar_picture_);
+    Bind(form, screen);
+    auto* picture = form.window->findChild<QWidget*>("pct_Plot_0");
+    const auto sheet = [this, picture, &screen] {
+        return Polar_Plot_Sheet(screen, polar_picture_, Page_Of(*picture));
+    };
+    Offer_Picture_Menu(*picture, {sheet, [this] { return Polar_Plot_Values(screens_->program); }});
 }
 
 QtPort::OpenForm& QtPort::Made_Form(ScreenId screen) {
@@ -131,6 +195,7 @@ QtPort::OpenForm& QtPort::Made_Form(ScreenId screen) {
     form.window = std::make_unique<FormWindow>();
     form.window->setObjectName(Qt_Text(std::string(Screen_Name(screen))));
     form.window->close_asked = [this, screen] { Close_By_User(screen); };
+    form.window->save_picture = [this](const Sheet& sheet) { Run([&] { Save_Picture(sheet); }); };
     Lay_Out(screen, form);
     return form;
 }

@@ -5,12 +5,13 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
+#include "core/picture_list.h"
 #include "core/port.h"
 #include "qt/binder.h"
 #include "qt/form_window.h"
-#include "qt/picture_list.h"
 #include "qt/run_gate.h"
 #include "screens/screens.h"
 
@@ -69,6 +70,9 @@ class QtPort : public Port {
     OpenForm& Made_Form(ScreenId screen);
     void Lay_Out(ScreenId screen, OpenForm& form);
     void Lay_Out_And_Bind(OpenForm& form, PlotSelectScreen& screen);
+    void Lay_Out_And_Bind(OpenForm& form, ChartScreen& screen);
+    void Lay_Out_And_Bind(OpenForm& form, OwnPlotScreen& screen, std::span<PictureList> pictures);
+    void Lay_Out_And_Bind(OpenForm& form, PolarPlotScreen& screen);
     template <class Record>
     void Bind(OpenForm& form, Record& record);
     void Open_Window(ScreenId screen, Modality modality);
@@ -79,10 +83,13 @@ class QtPort : public Port {
     QWidget* Front_Window();
 
     std::optional<std::string> Ask_File(const FileDialog& dialog, bool saving);
+    void Save_Picture(const Sheet& sheet);
     bool Choose_Printer(QPrinter& printer, const QString& document);
 
     Screens* screens_ = nullptr;
-    PictureList input_picture_, animate_picture_;
+    PictureList input_picture_, animate_picture_, polar_picture_;
+    std::array<PictureList, 2> two_plots_;
+    std::array<PictureList, 4> four_plots_;
     std::array<OpenForm, NumScreens> forms_;
     std::vector<StackEntry*> stack_;  ///< the open modal screens, the front one last
     std::unique_ptr<RunGate> run_;    ///< of the animation, while it runs

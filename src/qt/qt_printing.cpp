@@ -57,7 +57,10 @@ void QtPort::Print_Screen(ScreenId screen) {
     FormWindow& form = Form(screen);
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageOrientation(form.width() > form.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
-    if (Choose_Printer(printer, form.windowTitle())) Paint_Form(printer, form);
+    if (!Choose_Printer(printer, form.windowTitle())) return;
+    // A screen may have hidden what does not belong on paper.
+    Push_All();
+    Paint_Form(printer, form);
 }
 
 std::unique_ptr<Printer> QtPort::Ask_Printer() {

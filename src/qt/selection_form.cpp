@@ -157,7 +157,7 @@ QHBoxLayout* New_Settings(const SelectionKind& kind, std::initializer_list<QGrou
     if (kind.has_styles)
         row->addWidget(New_Options(New_Group("Plot Style"), "opt_Plotstyle",
                                    {{"Annotated plots", "Charts with grid, labels and legend."},
-                                    {"Plain plots", "Drawn curves with axes and extremes."}}));
+                                    {"Aligned plots", "Drawn curves with axes and extremes."}}));
     for (QGroupBox* group : own) row->addWidget(group);
     if (kind.vectors_only) row->addStretch();
     return row;

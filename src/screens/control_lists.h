@@ -41,6 +41,7 @@ void Visit_First(Visitor& visit, const std::string& group, std::array<Record, co
 }
 
 #define KERVOL_CONTROL(name) visit(#name, screen.name)
+#define KERVOL_FIRST(name) Visit_First(visit, #name, screen.name, shown)
 #define KERVOL_MEMBERS(name, ...) Visit_Members(visit, #name, screen.name, std::array{__VA_ARGS__})
 
 template <class Visitor>
@@ -82,6 +83,7 @@ void Visit_Controls(HomeScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(mnu_Open);
     KERVOL_CONTROL(mnu_Save);
     KERVOL_CONTROL(mnu_Saveas);
+    KERVOL_CONTROL(mnu_Report);
     KERVOL_CONTROL(mnu_Export);
     KERVOL_CONTROL(mnu_Export_Link_Data);
     KERVOL_CONTROL(mnu_Export_Torque);
@@ -278,7 +280,7 @@ void Visit_Controls(PrintSelectScreen& screen, Visitor&& visit) {
 }
 
 template <class Visitor>
-void Visit_Controls(PrintDataScreen& screen, Visitor&& visit) {
+void Visit_Controls(StateLabels& screen, Visitor&& visit) {
     KERVOL_CONTROL(lbl_Header);
     KERVOL_CONTROL(lbl_Header2);
     KERVOL_CONTROL(lbl_Header3);
@@ -289,10 +291,124 @@ void Visit_Controls(PrintDataScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(lbl_Linkout2);
     KERVOL_CONTROL(lbl_Unit);
     KERVOL_CONTROL(lbl_Coord);
+}
+
+template <class Visitor>
+void Visit_Controls(PlotButtons& screen, Visitor&& visit) {
+    KERVOL_CONTROL(cmd_Replot);
+    visit(screen.kind.plain_names ? "cmd_Print" : "cmd_PlotPrint", screen.cmd_PlotPrint);
+    KERVOL_CONTROL(cmd_Copy);
+    visit(screen.kind.plain_names ? "cmd_Done" : "cmd_PlotDone", screen.cmd_PlotDone);
+}
+
+template <class Visitor>
+void Visit_Controls(ChartScreen& screen, Visitor&& visit) {
+    Visit_Controls(static_cast<StateLabels&>(screen), visit);
+    Visit_First(visit, "grf_Plot", screen.grf_Plot, static_cast<std::size_t>(screen.kind.plots));
+    KERVOL_CONTROL(chk_HGrid);
+    KERVOL_CONTROL(chk_VGrid);
+    KERVOL_CONTROL(chk_Line);
+    KERVOL_CONTROL(chk_Sticks);
+    KERVOL_CONTROL(opt_Back);
+    Visit_Controls(static_cast<PlotButtons&>(screen), visit);
+}
+
+template <class Visitor>
+void Visit_Controls(OwnPlotScreen& screen, Visitor&& visit) {
+    const auto shown = static_cast<std::size_t>(screen.kind.plots);
+    Visit_Controls(static_cast<StateLabels&>(screen), visit);
+    KERVOL_FIRST(lbl_LeftTitle);
+    KERVOL_FIRST(lbl_Comp);
+    KERVOL_FIRST(lbl_PlotUnits);
+    KERVOL_FIRST(lbl_Ymax);
+    KERVOL_FIRST(lbl_Ymin);
+    KERVOL_FIRST(lbl_Xmin);
+    KERVOL_FIRST(lbl_X1);
+    KERVOL_FIRST(lbl_X2);
+    KERVOL_FIRST(lbl_X3);
+    KERVOL_FIRST(lbl_Xmax);
+    KERVOL_FIRST(lbl_BottomTitle);
+    KERVOL_FIRST(lbl_Min);
+    KERVOL_FIRST(lbl_Max);
+    KERVOL_FIRST(lbl_Peak);
+    Visit_Controls(static_cast<PlotButtons&>(screen), visit);
+}
+
+template <class Visitor>
+void Visit_Controls(PolarPlotScreen& screen, Visitor&& visit) {
+    Visit_Controls(static_cast<StateLabels&>(screen), visit);
+    KERVOL_CONTROL(lbl_LeftTitle);
+    KERVOL_CONTROL(lbl_PlotUnits);
+    KERVOL_CONTROL(lbl_Ymax);
+    KERVOL_CONTROL(lbl_Ymin);
+    KERVOL_CONTROL(lbl_Xmin);
+    KERVOL_CONTROL(lbl_Xmax);
+    KERVOL_CONTROL(chk_Vectors);
+    KERVOL_CONTROL(chk_Envelope);
+    KERVOL_CONTROL(chk_Pause);
+    KERVOL_CONTROL(cmd_Step);
+    KERVOL_CONTROL(lbl_StepLabel);
+    KERVOL_CONTROL(lbl_StepNumber);
+    KERVOL_CONTROL(lbl_StepUnit);
+    KERVOL_CONTROL(lbl_name);
+    KERVOL_CONTROL(lbl_vector);
+    Visit_Controls(static_cast<PlotButtons&>(screen), visit);
+}
+
+template <class Visitor>
+void Visit_Controls(PrintDataScreen& screen, Visitor&& visit) {
+    Visit_Controls(static_cast<StateLabels&>(screen), visit);
     KERVOL_CONTROL(grd_Data);
     KERVOL_CONTROL(cmd_Cancel);
     KERVOL_CONTROL(cmd_PrintForm);
     KERVOL_CONTROL(cmd_Copy);
+}
+
+template <class Visitor>
+void Visit_Controls(FlywheelScreen& screen, Visitor&& visit) {
+    KERVOL_CONTROL(lbl_Header);
+    KERVOL_CONTROL(fra_Energy);
+    KERVOL_CONTROL(pct_Pict1);
+    KERVOL_CONTROL(fra_Fluct);
+    KERVOL_CONTROL(txt_Fluct);
+    KERVOL_CONTROL(fra_Without);
+    KERVOL_CONTROL(fra_With);
+    KERVOL_CONTROL(lbl_Right2);
+    KERVOL_CONTROL(lbl_Torque);
+    KERVOL_CONTROL(lbl_Unit);
+    KERVOL_CONTROL(grf_Plot);
+    KERVOL_CONTROL(cmd_Cancel);
+    KERVOL_CONTROL(cmd_Print);
+    KERVOL_CONTROL(cmd_copy);
+    KERVOL_CONTROL(cmd_Calc);
+    KERVOL_CONTROL(cmd_Done);
+}
+
+template <class Visitor>
+void Visit_Controls(FFTScreen& screen, Visitor&& visit) {
+    KERVOL_CONTROL(lbl_Header);
+    KERVOL_CONTROL(lbl_Header2);
+    KERVOL_CONTROL(fra_Function1);
+    KERVOL_CONTROL(lbl_Var1);
+    KERVOL_CONTROL(cmb_Var1);
+    KERVOL_CONTROL(lbl_Com1);
+    KERVOL_CONTROL(cmb_Com1);
+    KERVOL_CONTROL(cmd_Clear1);
+    KERVOL_CONTROL(lbl_Harmonics);
+    KERVOL_CONTROL(cmb_Harmonics);
+    KERVOL_CONTROL(fra_Grid);
+    KERVOL_CONTROL(chk_HGrid);
+    KERVOL_CONTROL(chk_VGrid);
+    KERVOL_CONTROL(fra_Style);
+    KERVOL_CONTROL(chk_Line);
+    KERVOL_CONTROL(chk_Sticks);
+    KERVOL_CONTROL(lbl_Graph);
+    KERVOL_CONTROL(grf_Plot);
+    KERVOL_CONTROL(cmd_Cancel);
+    KERVOL_CONTROL(cmd_Print);
+    KERVOL_CONTROL(cmd_Copy);
+    KERVOL_CONTROL(cmd_Calc);
+    KERVOL_CONTROL(cmd_Done);
 }
 
 template <class Visitor>
@@ -310,6 +426,7 @@ void Visit_Controls(QuitScreen& screen, Visitor&& visit) {
 }
 
 #undef KERVOL_MEMBERS
+#undef KERVOL_FIRST
 #undef KERVOL_CONTROL
 
 }  // namespace kervol

@@ -2,11 +2,6 @@
 #include "screens/screens.h"
 
 namespace kervol {
-namespace {
-
-constexpr const char* kNotThere = "This part of the program is not there yet.";
-
-}  // namespace
 
 TitleScreen::TitleScreen() {
     lblHeader.caption = "A Program for the Kinematic Analysis and Synthesis of Kervol Linkages";
@@ -46,6 +41,7 @@ HomeScreen::HomeScreen() {
     mnu_Open.caption = "&Open";
     mnu_Save.caption = "&Save";
     mnu_Saveas.caption = "Save &as";
+    mnu_Report.caption = "&Report...";
     mnu_Export.caption = "Export";
     mnu_Export_Link_Data.caption = "Link 6 Theta-Omega-Alpha Data";
     mnu_Export_Torque.caption = "Link 2 Driving Torque Data";
@@ -68,10 +64,6 @@ HomeScreen::HomeScreen() {
     mnu_Version.caption = "&Help";
     mnu_About.caption = "&About Kervol";
     mnu_Disclaimer.caption = "&Disclaimer";
-    cmd_Flywheel.unavailable = kNotThere;
-    for (MenuItem* entry : {&mnu_Export_Link_Data, &mnu_Export_Torque, &mnu_Import_SVA,
-                            &mnu_Import_Link2_Drive_Data, &mnu_CalcFFT})
-        entry->unavailable = kNotThere;
 }
 
 AboutScreen::AboutScreen() {

@@ -7,9 +7,12 @@
 #include "core/arithmetic.h"
 #include "core/mathematics.h"
 #include "core/report.h"
+#include "core/text_encoding.h"
 #include "core/units.h"
+#include "files/exchange.h"
 #include "files/model_file.h"
 #include "kinematics/examples.h"
+#include "report/report_page.h"
 #include "screens/geometry_fields.h"
 #include "screens/launch_screens.h"
 #include "screens/motion_fields.h"
@@ -59,24 +62,64 @@ void mnu_New_Click(Screens& screens) {
     program.model.DataFromFile = false;
 }
 
-void mnu_Open_Click(Screens& screens) {
-    Program& program = screens.program;
-    if (Unsaved(program.model) && Wants_To_Save(program.port)) {
-        // Deliberate: the save dialog comes twice.
-        SaveAs(screens);
-        SaveAs(screens);
-    }
-    Clear_Tables(program);
-    const auto path = program.port.Ask_File_To_Open(
-        {"Open a model", "KERVOL for Windows (*.kvl)|*.kvl | Kervol DOS(*.ikv)|*.ikv| All (*.*)|*.*|",
-         "*.kvl"});
-    if (!path) return;
-    const ReadReport report = Open_Model(program, *path);
+/// Before a file is read over results that no file holds.
+void Offer_To_Save(Screens& screens) {
+    if (!Unsaved(screens.program.model) || !Wants_To_Save(screens.program.port)) return;
+    // Deliberate: the save dialog comes twice.
+    SaveAs(screens);
+    SaveAs(screens);
+}
+
+/// What follows on a file that could be opened, however far it was read.
+void Close_Reading(Screens& screens, const ReadReport& report) {
     const bool opened = report.line > 0;
     if (!opened) return;
     Update_Home_Menu(screens);
     screens.frm_HomeScreen.mnu_New.enabled = true;
     Clear_Input_Picture(screens);
+}
+
+void mnu_Open_Click(Screens& screens) {
+    Program& program = screens.program;
+    Offer_To_Save(screens);
+    Clear_Tables(program);
+    const auto path = program.port.Ask_File_To_Open(
+        {"Open a model", "KERVOL for Windows (*.kvl)|*.kvl | Kervol DOS(*.ikv)|*.ikv| All (*.*)|*.*|",
+         "*.kvl"});
+    if (path) Close_Reading(screens, Open_Model(program, *path));
+}
+
+void Import(Screens& screens, const FileDialog& dialog,
+            ReadReport (*read)(Program& program, const std::string& path)) {
+    Offer_To_Save(screens);
+    const auto path = screens.program.port.Ask_File_To_Open(dialog);
+    if (path) Close_Reading(screens, read(screens.program, *path));
+}
+
+void mnu_Import_SVA_Click(Screens& screens) {
+    Import(screens, {"Open a Haldrix export data file", "Haldrix Export (*.sva)|*.sva|(*.*)|*.*|", "*.sva"},
+           Import_Cam_Drive);
+}
+
+void mnu_Import_Link2_Drive_Data_Click(Screens& screens) {
+    Import(screens, {"Open a Linkage Drive Data file", "Linkage Export (*.out)|*.out|(*.*)|*.*|", "*.out"},
+           Import_Linkage_Drive);
+}
+
+void mnu_Export_Link_Data_Click(Screens& screens) {
+    Program& program = screens.program;
+    const auto path =
+        program.port.Ask_File_To_Save({"Export Link 6 Data", "Kervol Export (*.out)|*.out|(*.*)|*.*|",
+                                       program.model.ModelName + "_kvl.out"});
+    if (path) Export_Link6(program, *path);
+}
+
+void mnu_Export_Torque_Click(Screens& screens) {
+    Program& program = screens.program;
+    const auto path = program.port.Ask_File_To_Save({"Export Link 2 Driving Torque Data",
+                                                     "Link 2 Torque Export (*.trq)|*.trq|(*.*)|*.*|",
+                                                     program.model.ModelName + "_kvl.trq"});
+    if (path) Export_Torque(program, *path);
 }
 
 void mnu_Save_Click(Screens& screens) {
@@ -85,6 +128,14 @@ void mnu_Save_Click(Screens& screens) {
         Save_Model(screens.program);
     else
         SaveAs(screens);
+}
+
+void mnu_Report_Click(Screens& screens) {
+    Program& program = screens.program;
+    const auto path =
+        program.port.Ask_File_To_Save({"Write a Report", "*.html", program.model.ModelName + ".html"});
+    if (!path || !Write_Report(program, *path)) return;
+    program.port.Show_Message({"The report was written to \n" + Decoded(*path), Icon::Information});
 }
 
 void mnu_pick_Click(Screens& screens, std::int16_t index) {
@@ -168,6 +219,7 @@ void Update_Home_Menu(Screens& screens) {
     HomeScreen& home = screens.frm_HomeScreen;
     for (MenuItem* entry : {&home.mnu_New, &home.mnu_Save, &home.mnu_Saveas, &home.mnu_Export})
         entry->enabled = model.DataCalculated;
+    home.mnu_Report.enabled = model.DataCalculated;
     home.mnu_CalcFFT.enabled = model.DataCalculated && model.CalcMode == 3;
     home.mnu_SelfCheck.enabled = model.DataCalculated;
     home.mnu_Export_Torque.enabled = model.DynamicsCalculated;
@@ -196,6 +248,8 @@ void Wire_Home_Screen(Screens& screens) {
     on(home.cmd_Input.click, "frm_Homescreen.Input", opens(ScreenId::frm_Inputnew));
     on(home.cmd_Animate.click, "frm_Homescreen.Animate", cmd_Animate_Click);
     on(home.cmd_Dynamics.click, "frm_Homescreen.Dynamics", opens(ScreenId::frm_MassProp));
+    on(home.cmd_Flywheel.click, "frm_Homescreen.Flywheel", opens(ScreenId::frm_Flywheel));
+    on(home.mnu_CalcFFT.click, "frm_Homescreen.FFT", opens(ScreenId::frm_FFT));
     on(home.cmd_Plot.click, "frm_Homescreen.Plot",
        [](Screens& all) { Open_Selection(all, ScreenId::frm_PlotType); });
     on(home.cmd_Print.click, "frm_Homescreen.Print",
@@ -206,6 +260,12 @@ void Wire_Home_Screen(Screens& screens) {
     on(home.mnu_Open.click, "frm_Homescreen.Open", mnu_Open_Click);
     on(home.mnu_Save.click, "frm_Homescreen.Save", mnu_Save_Click);
     on(home.mnu_Saveas.click, "frm_Homescreen.SaveAs", SaveAs);
+    on(home.mnu_Report.click, "frm_Homescreen.Report", mnu_Report_Click);
+    on(home.mnu_Export_Link_Data.click, "mnu_link4_Click", mnu_Export_Link_Data_Click);
+    on(home.mnu_Export_Torque.click, "mnu_Torque_export_Click", mnu_Export_Torque_Click);
+    on(home.mnu_Import_SVA.click, "mnu_Link_Data_Import_Click", mnu_Import_SVA_Click);
+    on(home.mnu_Import_Link2_Drive_Data.click, "mnu_Link_Data_Import_Click",
+       mnu_Import_Link2_Drive_Data_Click);
     for (std::size_t i = 1; i < home.mnu_pick.size(); ++i)
         on(home.mnu_pick[i].click, "frm_Homescreen.Units",
            [i](Screens& all) { mnu_pick_Click(all, static_cast<std::int16_t>(i)); });

@@ -8,13 +8,16 @@
 #include "core/report.h"
 #include "core/units.h"
 #include "screens/animate_events.h"
+#include "screens/fft_events.h"
 #include "screens/fields.h"
+#include "screens/flywheel_events.h"
 #include "screens/geometry_fields.h"
 #include "screens/home_screen.h"
 #include "screens/input_events.h"
 #include "screens/mass_prop_events.h"
 #include "screens/matrix_events.h"
 #include "screens/motion_fields.h"
+#include "screens/plot_events.h"
 #include "screens/plot_select_events.h"
 #include "screens/print_select_events.h"
 #include "screens/selection_rules.h"
@@ -88,6 +91,12 @@ void Quit_Form_Activate(Screens& screens) {
 #define CLOSES(button) [](const Screens& all) -> const Button& { return all.button; }
 #define ACTIVATES(form) [](Screens& all) { Selection_Form_Activate(all.program, all.form); }
 
+#define PLOTS_ON(form)                                                                      \
+    {                                                                                       \
+        ScreenId::form, #form, "", [](Screens& all) { Plot_Form_Activate(all, all.form); }, \
+            CLOSES(form.cmd_Replot)                                                         \
+    }
+
 /// In the order of `ScreenId`.
 constexpr auto kScreens = std::to_array<ScreenRow>({
     {ScreenId::frm_Title, "frm_Title", nullptr, nullptr, CLOSES(frm_Title.cmd_Abort)},
@@ -112,14 +121,25 @@ constexpr auto kScreens = std::to_array<ScreenRow>({
      CLOSES(frm_PlotSelect3.cmd_Cancel)},
     {ScreenId::frm_PlotSelect4, "frm_PlotSelect4", "Select Plot Data", ACTIVATES(frm_PlotSelect4),
      CLOSES(frm_PlotSelect4.cmd_Cancel)},
+    PLOTS_ON(frm_Plot1),
+    PLOTS_ON(frm_Plot2),
+    PLOTS_ON(frm_Plot3),
+    PLOTS_ON(frm_Plot4),
+    PLOTS_ON(frm_Myplot2),
+    PLOTS_ON(frm_MyPlot3),
+    PLOTS_ON(frm_MyPlot4),
     {ScreenId::frm_PrintSelect, "frm_PrintSelect", "Print Select", Print_Select_Form_Activate,
      CLOSES(frm_PrintSelect.cmd_Cancel)},
     {ScreenId::frm_PrintData, "frm_PrintData", "Output Screen", nullptr, CLOSES(frm_PrintData.cmd_Cancel)},
+    {ScreenId::frm_Flywheel, "frm_Flywheel", "Flywheel Screen", Flywheel_Form_Activate,
+     CLOSES(frm_Flywheel.cmd_Cancel)},
+    {ScreenId::frm_FFT, "frm_FFT", "Fourier Transform", FFT_Form_Activate, CLOSES(frm_FFT.cmd_Cancel)},
     {ScreenId::frm_SelfCheck, "frm_SelfCheck", "Self-check", Self_Check_Form_Activate,
      CLOSES(frm_SelfCheck.cmd_Back)},
     {ScreenId::frm_Quit, "frm_Quit", nullptr, Quit_Form_Activate, CLOSES(frm_Quit.cmd_NoQuit)},
 });
 
+#undef PLOTS_ON
 #undef ACTIVATES
 #undef CLOSES
 
@@ -168,7 +188,10 @@ void Wire_Screens(Screens& screens) {
     Wire_Mass_Prop_Screen(screens);
     Wire_Matrix_Screen(screens);
     Wire_Plot_Select_Screens(screens);
+    Wire_Plot_Screens(screens);
     Wire_Print_Select_Screens(screens);
+    Wire_Flywheel_Screen(screens);
+    Wire_FFT_Screen(screens);
     Wire_Self_Check_Screen(screens);
     on(screens.frm_Title.cmd_Start.click, "frm_Title.Start", cmd_Start_Click);
     on(screens.frm_Title.cmd_Abort.click, "frm_Title.Abort",

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/report.h"
+#include "screens/launch_screens.h"
 #include "screens/selection_rules.h"
 
 namespace kervol {
@@ -74,7 +75,7 @@ void Wire_Plot_Select_Screens(Screens& screens) {
                                    &screens.frm_PlotSelect3, &screens.frm_PlotSelect4}) {
         Wire_Selection_Form(screens.program, *form);
         form->cmd_Cancel.click = [&screens, screen = form->kind.screen] {
-            Procedure(screens.program, "frm_PlotSelect.cmd_Cancel",
+            Procedure(screens.program, std::string(Screen_Name(screen)) + ".cmd_Cancel",
                       [&] { Reopen_Plot_Type(screens, screen); });
         };
     }

@@ -6,8 +6,10 @@
 
 #include "core/controls.h"
 #include "core/program.h"
+#include "screens/analysis_screens.h"
 #include "screens/dynamics_screens.h"
 #include "screens/linkage_screen.h"
+#include "screens/plot_screens.h"
 #include "screens/selection_screens.h"
 
 namespace kervol {
@@ -39,6 +41,7 @@ struct HomeScreen {
 
     Button cmd_Input, cmd_Animate, cmd_Plot, cmd_Print, cmd_Dynamics, cmd_Flywheel, cmd_Quit;
     MenuItem mnu_file, mnu_New, mnu_Open, mnu_Save, mnu_Saveas, mnu_Quit;
+    MenuItem mnu_Report;
     MenuItem mnu_Export, mnu_Export_Link_Data, mnu_Export_Torque;
     MenuItem mnu_Import, mnu_Import_SVA, mnu_Import_Link2_Drive_Data;
     MenuItem mnu_Units;
@@ -87,8 +90,17 @@ struct Screens {
     PlotSelectScreen frm_PlotSelect2{kPlotSelect2};
     PlotSelectScreen frm_PlotSelect3{kPlotSelect3};
     PlotSelectScreen frm_PlotSelect4{kPlotSelect4};
+    ChartScreen frm_Plot1{kPlot1};
+    ChartScreen frm_Plot2{kPlot2};
+    ChartScreen frm_Plot3{kPlot3};
+    ChartScreen frm_Plot4{kPlot4};
+    OwnPlotScreen frm_Myplot2{kMyplot2};
+    OwnPlotScreen frm_MyPlot3{kMyPlot3};
+    PolarPlotScreen frm_MyPlot4{kMyPlot4};
     PrintSelectScreen frm_PrintSelect;
     PrintDataScreen frm_PrintData;
+    FlywheelScreen frm_Flywheel;
+    FFTScreen frm_FFT;
     SelfCheckScreen frm_SelfCheck;
     QuitScreen frm_Quit;
 };

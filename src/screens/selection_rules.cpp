@@ -51,16 +51,18 @@ void Clear_Label(SelectionForm& form, std::size_t slot) {
     form.lbl_Component[slot].caption.clear();
 }
 
-void Clear_Boxes(SelectionForm& form, std::size_t slot) {
-    form.cmb_Var[slot].text.clear();
-    form.cmb_Com[slot].text.clear();
+void Clear_Labels(SelectionForm& form) {
+    for (std::size_t slot = 0; slot < form.kind.functions; ++slot) Clear_Label(form, slot);
+}
+
+void Clear_Components(SelectionForm& form) {
+    for (std::size_t slot = 0; slot < form.kind.functions; ++slot) form.cmb_Com[slot].text.clear();
 }
 
 void Clear_Preset(SelectionForm& form) {
-    for (std::size_t slot = 0; slot < form.kind.functions; ++slot) {
-        Clear_Label(form, slot);
-        Clear_Boxes(form, slot);
-    }
+    Clear_Labels(form);
+    for (std::size_t slot = 0; slot < form.kind.functions; ++slot) form.cmb_Var[slot].text.clear();
+    Clear_Components(form);
     form.cmb_Preset.text.clear();
     form.cmd_Done.enabled = false;
 }
@@ -73,10 +75,10 @@ void Set_Slot(SelectionForm& form, std::size_t slot, bool on) {
         control->enabled = on;
 }
 
-void Disable_Slots(SelectionForm& form) {
+void Set_Controls(SelectionForm& form, bool on) {
     for (std::size_t slot = 0; slot < form.kind.functions; ++slot) {
-        Set_Slot(form, slot, false);
-        form.cmd_OK[slot].enabled = false;
+        Set_Slot(form, slot, on);
+        form.cmd_OK[slot].enabled = on;
     }
 }
 
@@ -87,7 +89,7 @@ void Enable_Slot(SelectionForm& form, std::size_t slot) {
 
 void Set_Print_Set(Program& program, SelectionForm& form) {
     Clear_Preset(form);
-    Disable_Slots(form);
+    Set_Controls(form, false);
     const bool mix = Is_Mix(form);
     for (Control* control :
          std::initializer_list<Control*>{&form.fra_Preset, &form.cmb_Preset, &form.cmd_ClearPreset})
@@ -150,7 +152,8 @@ void cmd_OK_Click(Program& program, SelectionForm& form, std::size_t slot) {
 }
 
 void cmd_Clear_Click(Program& program, SelectionForm& form, std::size_t slot) {
-    Clear_Boxes(form, slot);
+    form.cmb_Var[slot].text.clear();
+    form.cmb_Com[slot].text.clear();
     Clear_Label(form, slot);
     // Deliberate: of the slots in the middle only. Behind another one what is left may still be shown.
     if (slot == 1 || slot == 2) form.cmd_OK[slot].enabled = form.cmd_Done.enabled = false;

@@ -38,15 +38,11 @@ SelectionForm::SelectionForm(const SelectionKind& the_kind) : kind(the_kind) {
     opt_Coord[1].caption = "Local Rotating";
     opt_Coord[0].on = true;
     opt_Plotstyle[0].caption = "Annotated";
-    opt_Plotstyle[1].caption = "Plain";
+    opt_Plotstyle[1].caption = "Aligned";
     // A polar plot is drawn by the program itself unless the chart is asked for.
     opt_Plotstyle[kind.vectors_only ? 1 : 0].on = true;
     cmd_Done.caption = "&Next >";
     cmd_Cancel.caption = "< &Back";
-}
-
-PlotSelectScreen::PlotSelectScreen(const SelectionKind& the_kind) : SelectionForm(the_kind) {
-    cmd_Done.unavailable = "The plots are not there yet.";
 }
 
 PrintSelectScreen::PrintSelectScreen() : SelectionForm(kPrintSelect) {

@@ -57,7 +57,7 @@ struct SelectionForm : SlotLabels {
 };
 
 struct PlotSelectScreen : SelectionForm {
-    explicit PlotSelectScreen(const SelectionKind& the_kind);
+    using SelectionForm::SelectionForm;
 };
 
 inline constexpr SelectionKind kPlotSelect1 = {.lists = SelectionScreen::frm_PlotSelect1,

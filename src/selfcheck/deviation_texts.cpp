@@ -167,12 +167,19 @@ bool Applies(Deviation deviation, const LinkageModel& model, const SelfCheck& re
     return Entry_Of(deviation).applies(model, result);
 }
 
+std::vector<DeviationEffect> Applying_Deviations(const LinkageModel& model, const SelfCheck& result) {
+    std::vector<DeviationEffect> applying;
+    for (const DeviationEffect& effect : result.effects)
+        if (Applies(effect.deviation, model, result)) applying.push_back(effect);
+    return applying;
+}
+
 std::string Deviation_Text(Deviation deviation, const LinkageModel& model, const SelfCheck& result) {
     return Entry_Of(deviation).text(model, result);
 }
 
 std::string Effect_Text(const DeviationEffect& effect, const LinkageModel& model, const SelfCheck& result) {
-    if (!Is_Solved(result)) return {};
+    if (!Is_Solved(result) || effect.deviation == Deviation::Transmission) return {};
     if (effect.step < 0) return "The driving torque does not depend on it.";
     const double peak = std::abs(result.consistent_drive.peak_torque);
     std::string text = "By itself it changes the driving torque by up to " +

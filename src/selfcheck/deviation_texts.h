@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/model.h"
 #include "selfcheck/self_check.h"
@@ -21,11 +22,15 @@ std::string_view Deviation_Title(Deviation deviation);
 /// Whether it makes any difference to the model's kind and numbers, be it too small to be seen.
 bool Applies(Deviation deviation, const LinkageModel& model, const SelfCheck& result);
 
+/// Those that apply, in the order of `AllDeviations`.
+std::vector<DeviationEffect> Applying_Deviations(const LinkageModel& model, const SelfCheck& result);
+
 /// What the tables do, what a rigid linkage does, and the figures of the model. One paragraph without line
 /// breaks.
 std::string Deviation_Text(Deviation deviation, const LinkageModel& model, const SelfCheck& result);
 
-/// What it does to the driving torque by itself; empty where no forces were solved.
+/// What it does to the driving torque by itself; empty where no forces were solved, and of transmission
+/// angles, which no force hangs on.
 std::string Effect_Text(const DeviationEffect& effect, const LinkageModel& model, const SelfCheck& result);
 
 /// Of this name among the checks; nothing where it was not compared.

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/arithmetic.h"
 #include "selfcheck/deviation_texts.h"
+#include "selfcheck/self_check_summary.h"
 
 namespace kervol {
 namespace {
@@ -41,127 +41,33 @@ void Put_Heading(Out& out, std::string_view text) {
     out << '\n' << text << '\n' << std::string(text.size(), '-') << '\n';
 }
 
-std::string Count_Text(int count, const char* noun) {
-    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
-}
-
-std::string Chain_Text(const LinkageModel& model) {
-    if (model.LinkageType == "W") return "Watt chain";
-    if (model.LinkageType == "S") return "Stephenson chain";
-    return "Chain \"" + model.LinkageType + "\", Stage 1 alone";
-}
-
-std::string Compared_Text(const LinkageModel& model, const SelfCheck& result) {
-    std::string text =
-        Chain_Text(model) + ": " + Count_Text(static_cast<int>(result.steps.size()), "step") + " compared";
-    if (result.not_assembled > 0)
-        text += ", " + std::to_string(result.not_assembled) + " left out that do not assemble";
-    if (!result.left_out.empty())
-        text += ", " + std::to_string(result.left_out.size()) +
-                " left out at a dead centre, the first of them " + std::to_string(result.left_out.front());
-    if (result.steps_with_forces > 0)
-        return text + "; forces of " + Count_Text(result.steps_with_forces, "step") + ".";
-    if (!Chain_Has_Stage2(model)) return text + "; there are no forces without a Stage 2.";
-    return text + "; forces are not solved, so only the motion is compared.";
-}
-
-std::string Verdict_Text(const SelfCheck& result) {
-    const int agree = result.Count(Verdict::Agrees), purpose = result.Count(Verdict::OnPurpose);
-    const int all = static_cast<int>(result.checks.size());
-    std::string text = "Of " + Count_Text(all, "value") + ", " + std::to_string(agree) +
-                       " agree with rigid links to the last digits that the tables hold";
-    if (purpose > 0) text += "; " + std::to_string(purpose) + " differ on purpose, as told below";
-    return text + (result.Tables_Hold() ? "; none is damaged." : ".");
-}
-
-/// "30 % less": the tabulated value beside the consistent one.
-std::string Compared_Size(double tabulated, double consistent) {
-    if (Is_Zero(consistent)) return "where rigid links need none";
-    const double percent = 100 * (std::abs(tabulated) / std::abs(consistent) - 1);
-    return Four_Digits(std::abs(percent)) + (percent < 0 ? " % less" : " % more");
-}
-
-std::string Motor_Text(const LinkageModel& model, const SelfCheck& result) {
-    const DriveNeeds& tables = result.tabulated_drive;
-    const DriveNeeds& links = result.consistent_drive;
-    const CheckedValue* torque = Find_Check(result, "Torque 12");
-    const std::string& unit = model.UnitText(9);
-    if (torque->verdict == Verdict::Agrees)
-        return "A motor may be sized on the tabulated driving torque: it is that of rigid links, with a peak "
-               "of " +
-               Four_Digits(links.peak_torque) + " " + unit + " at step " + std::to_string(links.peak_step) +
-               ".";
-    return "Size a motor on the consistent driving torque, not on the tabulated one: rigid links need a peak "
-           "of " +
-           Four_Digits(links.peak_torque) + " " + unit + " (step " + std::to_string(links.peak_step) +
-           ") and " + Four_Digits(links.rms_torque) + " " + unit + " rms. The tables say " +
-           Four_Digits(tables.peak_torque) + " " + unit + " (step " + std::to_string(tables.peak_step) +
-           "), " + Compared_Size(tables.peak_torque, links.peak_torque) + ", and " +
-           Four_Digits(tables.rms_torque) + " " + unit + " rms, " +
-           Compared_Size(tables.rms_torque, links.rms_torque) +
-           ". Pin forces, shaking force and flywheel follow the same rules.";
-}
-
 void Put_Short(Out& out, const LinkageModel& model, const SelfCheck& result) {
     Put_Heading(out, "In short");
-    Put_Paragraph(out, Compared_Text(model, result), 2);
-    if (result.checks.empty()) return Put_Paragraph(out, "Nothing to compare: calculate first.", 2);
-    Put_Paragraph(out, Verdict_Text(result), 2);
-    if (!result.Tables_Hold()) Put_Paragraph(out, Self_Check_Complaint(result), 2);
-    if (result.steps_with_forces > 0) Put_Paragraph(out, Motor_Text(model, result), 2);
-    // Labels and nothing more: forces come out in mass by length by second^2.
-    if (model.UnitSystem == 5 && result.steps_with_forces > 0)
-        Put_Paragraph(out,
-                      "Units: kg, mm and seconds make forces in mN and torques in mN-mm, whatever the labels "
-                      "say. Enter loads so, and read forces and torques so.",
-                      2);
+    for (const std::string& paragraph : Self_Check_Summary(model, result)) Put_Paragraph(out, paragraph, 2);
 }
 
 void Put_Deviations(Out& out, const LinkageModel& model, const SelfCheck& result) {
-    std::vector<const DeviationEffect*> shown;
-    for (const DeviationEffect& effect : result.effects)
-        if (Applies(effect.deviation, model, result)) shown.push_back(&effect);
+    const std::vector<DeviationEffect> shown = Applying_Deviations(model, result);
     if (shown.empty()) return;
     Put_Heading(out, "Where the tables differ from rigid links on purpose");
-    Put_Paragraph(
-        out,
-        "Tables, files and sibling programs agree on these rules, so they stay. The values that rigid "
-        "links would have are called consistent here.",
-        2);
-    for (const DeviationEffect* effect : shown) {
-        out << "\n  " << Deviation_Title(effect->deviation) << '\n';
-        Put_Paragraph(out, Deviation_Text(effect->deviation, model, result), 4);
-        if (effect->deviation != Deviation::Transmission)
-            Put_Paragraph(out, Effect_Text(*effect, model, result), 4);
+    Put_Paragraph(out, Why_They_Stay, 2);
+    for (const DeviationEffect& effect : shown) {
+        out << "\n  " << Deviation_Title(effect.deviation) << '\n';
+        Put_Paragraph(out, Deviation_Text(effect.deviation, model, result), 4);
+        Put_Paragraph(out, Effect_Text(effect, model, result), 4);
     }
 }
 
 void Put_Drive(Out& out, const LinkageModel& model, const SelfCheck& result) {
     if (result.steps_with_forces == 0) return;
     Put_Heading(out, "The drive");
-    const std::string torque = model.UnitText(9), power = torque + "/sec";
-    struct Line {
-        const char* name;
-        const std::string& unit;
-        double DriveNeeds::*value;
-    };
-    const Line lines[] = {{"Peak torque", torque, &DriveNeeds::peak_torque},
-                          {"Torque, rms", torque, &DriveNeeds::rms_torque},
-                          {"Torque, mean", torque, &DriveNeeds::mean_torque},
-                          {"Peak power", power, &DriveNeeds::peak_power},
-                          {"Power, mean", power, &DriveNeeds::mean_power}};
     out << "  " << std::left << std::setw(26) << "" << std::right << std::setw(kNumberWidth) << "Tables"
         << std::setw(kNumberWidth) << "Consistent" << '\n';
-    for (const Line& line : lines)
+    for (const DriveLine& line : Drive_Lines(model, result))
         out << "  " << std::left << std::setw(14) << line.name << std::setw(12) << line.unit << std::right
-            << std::setw(kNumberWidth) << Four_Digits(result.tabulated_drive.*line.value)
-            << std::setw(kNumberWidth) << Four_Digits(result.consistent_drive.*line.value) << '\n';
-    Put_Paragraph(
-        out,
-        "The consistent torque was found twice: from the equilibrium of all links, and from the work "
-        "done, as the rate of the kinetic energy less the power of the loads. The two agree to " +
-            Four_Digits(result.torque_ways_differ) + " of the work that goes through the links.",
-        2);
+            << std::setw(kNumberWidth) << Four_Digits(line.tabulated) << std::setw(kNumberWidth)
+            << Four_Digits(line.consistent) << '\n';
+    Put_Paragraph(out, Two_Ways_Text(result), 2);
 }
 
 /// Those that a designer asks for first, as far as they differ.
@@ -285,25 +191,6 @@ std::string Self_Check_Text(const LinkageModel& model, const SelfCheck& result) 
     Put_Steps(out, result);
     Put_All(out, result);
     return out.str();
-}
-
-std::string Self_Check_Complaint(const SelfCheck& result) {
-    if (result.Tables_Hold()) return {};
-    const int differing = result.Count(Verdict::Differs);
-    if (differing == 0)
-        return "The check itself lost its digits: its two driving torques differ. Do not rely on its forces.";
-    std::string names;
-    int named = 0;
-    for (const CheckedValue& check : result.checks) {
-        if (check.verdict != Verdict::Differs || named == 3) continue;
-        names += (named == 0 ? "" : ", ") + check.quantity.name + " at step " +
-                 std::to_string(check.from_rule.step);
-        ++named;
-    }
-    if (differing > named) names += " and " + std::to_string(differing - named) + " more";
-    return Count_Text(differing, "value") + (differing == 1 ? " differs" : " differ") +
-           " from the rules of the tables: " + names +
-           ". Calculate and solve anew; what differs even then must not be relied on.";
 }
 
 }  // namespace kervol

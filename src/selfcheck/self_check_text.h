@@ -13,7 +13,4 @@ namespace kervol {
 /// checked.
 std::string Self_Check_Text(const LinkageModel& model, const SelfCheck& result);
 
-/// One line for a person who must not rely on the tables; empty where they hold.
-std::string Self_Check_Complaint(const SelfCheck& result);
-
 }  // namespace kervol

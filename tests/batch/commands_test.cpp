@@ -102,19 +102,6 @@ TEST(WrongUse, EndsWithExitCode1AndOneLine) {
     }
 }
 
-TEST(WrongUse, OptionsOfLaterReleasesSayThatTheyAreNotThereYet) {
-    const std::vector<std::string> cases[] = {{"--fft", "Theta4"}, {"--component", "Mag"}};
-    for (const auto& option : cases) {
-        std::vector<std::string> arguments = {"tables", "--example", "watt"};
-        arguments.insert(arguments.end(), option.begin(), option.end());
-        const CommandRun run = Batch(arguments);
-        EXPECT_EQ(run.code, 1) << option[0];
-        EXPECT_EQ(run.out, "") << option[0];
-        Expect_One_Line(run.err);
-        EXPECT_THAT(run.err, HasSubstr(option[0] + " is not available yet"));
-    }
-}
-
 TEST(WrongUse, ACoefficientOfFluctuationMustBeANumber) {
     for (const char* text : {"", "x", "0.05x", "nan", "inf", "0x1", "1e99"}) {
         const CommandRun run = Batch({"tables", "--example", "watt", "--flywheel", "--fluct", text});

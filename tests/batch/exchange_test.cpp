@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "batch/command_run.h"
+#include "files/full_disk.h"
 
 #include <gmock/gmock.h>
 
@@ -204,11 +205,46 @@ TEST(Export, OfWhatIsNotThereWritesNothing) {
     EXPECT_FALSE(std::filesystem::exists(folder / "a.trq"));
 }
 
-TEST(Export, KeepsWhatItOverwrites) {
+TEST(Exchange, KeepsWhatItOverwrites) {
     const TemporaryFolder folder;
-    folder.Put("a.trq", "earlier");
-    EXPECT_EQ(Batch({"export", "--example", "watt", "--torque", folder / "a.trq"}).code, 0);
-    EXPECT_EQ(Content_Of(folder / "a.trq~"), "earlier");
+    const std::string cam = folder.Put("cam.sva", Cam_Alone());
+    const std::string path = folder / "written";
+    for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{
+             {"export", "--example", "watt", "--torque", path},
+             {"export", "--example", "watt", "--link6", path},
+             {"drive", "--example", "watt", "--sva", cam, "--save", path},
+             {"drive", "--example", "watt", "--sva", cam, "-o", path},
+         }) {
+        SCOPED_TRACE(words[3]);
+        folder.Put("written", "earlier");
+        EXPECT_EQ(Batch(words).code, 0);
+        EXPECT_GT(Content_Of(path).size(), 300U);
+        EXPECT_EQ(Content_Of(path + "~"), "earlier");
+    }
+}
+
+TEST(Exchange, OnAFullDiskIsOneLineAndKeepsWhatStoodThere) {
+    const TemporaryFolder folder;
+    const std::string cam = folder.Put("cam.sva", Cam_Alone());
+    const std::string path = folder / "written";
+    for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{
+             {"export", "--example", "watt", "--torque", path},
+             {"export", "--example", "watt", "--link6", path},
+             {"drive", "--example", "watt", "--sva", cam, "--save", path, "-o", folder / "tables.json"},
+             {"drive", "--example", "watt", "--sva", cam, "-o", path},
+         }) {
+        SCOPED_TRACE(words[3]);
+        folder.Put("written", "earlier");
+        CommandRun run;
+        {
+            const FullDisk full(100);
+            run = Batch(words);
+        }
+        EXPECT_EQ(run.code, 2);
+        EXPECT_EQ(run.err, "kervol-batch: " + path + ": Disk full: make room, then write again\n");
+        EXPECT_EQ(Content_Of(path + "~"), "earlier");
+        EXPECT_FALSE(std::filesystem::exists(folder / "tables.json"));
+    }
 }
 
 TEST(Export, ToAPlaceThatCannotBeWrittenIsOneLine) {

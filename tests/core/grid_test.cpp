@@ -38,7 +38,7 @@ TEST(Grid, IsEmptyInItsOldSizeWhenItIsCleared) {
     Grid grid;
     grid.Resize(2, 2);
     grid(1, 1) = "text";
-    grid.Clear();
+    Clear_Grid(grid);
     EXPECT_EQ(grid.Rows(), 2);
     EXPECT_EQ(grid.Columns(), 2);
     EXPECT_EQ(grid(1, 1), "");

@@ -246,6 +246,22 @@ TEST(OutputFile, AFullDiskLeavesTheFileAsFarAsItWasWritten) {
     EXPECT_EQ(Content_Of(path + "~"), "the earlier content");
 }
 
+TEST(OutputFile, AFullDiskKeepsTheEarlierContentHoweverOftenItIsTried) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Put("model.kvl", "the earlier content");
+    for (int attempt = 1; attempt <= 3; ++attempt) {
+        {
+            const FullDisk full(0);
+            EXPECT_EQ(Write(path, "new"), 61) << attempt;
+        }
+        EXPECT_EQ(Content_Of(path), "");
+        EXPECT_EQ(Content_Of(path + "~"), "the earlier content") << attempt;
+    }
+    EXPECT_EQ(Write(path, "new"), 0);
+    EXPECT_EQ(Content_Of(path), "new");
+    EXPECT_EQ(Content_Of(path + "~"), "the earlier content");
+}
+
 TEST(OutputFile, AFullDiskThatHasNoRoomForACopyLeavesTheFileUntouched) {
     const TemporaryFolder folder;
     const std::string content(2000, 'o');

@@ -333,13 +333,6 @@ TEST_F(BinderTest, AComboBoxCanBeDisabledAndHidden) {
     EXPECT_FALSE(combo_widget->isVisible());
 }
 
-TEST_F(BinderTest, WhatIsNotThereYetIsDisabledAndSaysWhy) {
-    button.unavailable = "not there yet";
-    binder->Push();
-    EXPECT_FALSE(button_widget->isEnabled());
-    EXPECT_EQ(button_widget->toolTip(), "not there yet");
-}
-
 TEST_F(BinderTest, HidingAndDisablingReachTheWidgets) {
     label.visible = false;
     field.enabled = false;

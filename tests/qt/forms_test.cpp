@@ -84,11 +84,38 @@ std::set<std::string> Names(Screens& screens, ScreenId screen) {
         case ScreenId::frm_PlotSelect4:
             Visit_Controls(screens.frm_PlotSelect4, list);
             break;
+        case ScreenId::frm_Plot1:
+            Visit_Controls(screens.frm_Plot1, list);
+            break;
+        case ScreenId::frm_Plot2:
+            Visit_Controls(screens.frm_Plot2, list);
+            break;
+        case ScreenId::frm_Plot3:
+            Visit_Controls(screens.frm_Plot3, list);
+            break;
+        case ScreenId::frm_Plot4:
+            Visit_Controls(screens.frm_Plot4, list);
+            break;
+        case ScreenId::frm_Myplot2:
+            Visit_Controls(screens.frm_Myplot2, list);
+            break;
+        case ScreenId::frm_MyPlot3:
+            Visit_Controls(screens.frm_MyPlot3, list);
+            break;
+        case ScreenId::frm_MyPlot4:
+            Visit_Controls(screens.frm_MyPlot4, list);
+            break;
         case ScreenId::frm_PrintSelect:
             Visit_Controls(screens.frm_PrintSelect, list);
             break;
         case ScreenId::frm_PrintData:
             Visit_Controls(screens.frm_PrintData, list);
+            break;
+        case ScreenId::frm_Flywheel:
+            Visit_Controls(screens.frm_Flywheel, list);
+            break;
+        case ScreenId::frm_FFT:
+            Visit_Controls(screens.frm_FFT, list);
             break;
         case ScreenId::frm_SelfCheck:
             Visit_Controls(screens.frm_SelfCheck, list);

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 
 #include "core/units.h"
+#include "qt/picture_widget.h"
 #include "qt/window_test.h"
 #include "screens/launch_screens.h"
 
@@ -85,6 +86,44 @@ TEST_F(LayoutTest, EveryWindowFitsTheScreenAndShowsItsTextsWhole) {
             Check(form);
         });
     }
+}
+
+TEST_F(LayoutTest, ThePlotScreensFitTheScreenInEveryMode) {
+    for (const int mode : {1, 2, 3}) {
+        Select("watt", {"Accel CP-1", "Accel CP-2", "Veloc CP-1", "Veloc CP-2"});
+        program->model.CalcMode = static_cast<std::int16_t>(mode);
+        for (const ScreenId screen : kPlotScreens) {
+            In(screen, [](FormWindow& form) {
+                form.resize(kRoom);
+                EXPECT_LE(form.minimumSizeHint().width(), 1024);
+                EXPECT_LE(form.minimumSizeHint().height(), 700) << "at 1024 by 768";
+                Check(form);
+            });
+        }
+    }
+}
+
+TEST_F(LayoutTest, LabelsOfAPlotStandBelowTheirQuarterMarks) {
+    Select("watt", {"Omega3", "Omega4", "Omega5", "Omega6"});
+    In(ScreenId::frm_MyPlot3, [](FormWindow& form) {
+        form.resize(kRoom);
+        QTest::qWait(1);
+        const auto& picture = Find<PictureWidget>(form, "pct_Plot_2");
+        const auto middle = [&](const char* name) {
+            auto& label = Find<QLabel>(form, name);
+            return label.mapTo(&form, label.rect().center());
+        };
+        double angle = 0;
+        for (const char* name : {"lbl_Xmin_2", "lbl_X1_2", "lbl_X2_2", "lbl_X3_2", "lbl_Xmax_2"}) {
+            const QPointF mark = picture.mapTo(&form, picture.To_Widget(angle, 0).toPoint());
+            EXPECT_NEAR(middle(name).x(), mark.x(), 2) << name;
+            angle += 90;
+        }
+        const double top = picture.mapTo(&form, QPoint()).y();
+        EXPECT_GT(middle("lbl_Xmin_2").y(), top + picture.height());
+        EXPECT_LT(middle("lbl_Ymax_2").x(), picture.mapTo(&form, QPoint()).x());
+        EXPECT_LT(middle("lbl_Ymax_2").y(), middle("lbl_Ymin_2").y());
+    });
 }
 
 TEST_F(LayoutTest, TheInputScreenShowsAllModesOfBothChainsWhole) {

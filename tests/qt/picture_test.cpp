@@ -103,7 +103,7 @@ TEST(PictureWidgetTest, TheWindowIsTheLargestSquareInTheMiddle) {
     PictureWidget widget(list);
     list.Set_Scale(-10, -10, 10, 10);
     widget.resize(300, 200);
-    EXPECT_EQ(widget.Window_Square(), QRectF(50, 0, 200, 200));
+    EXPECT_EQ(widget.Window_Place(), QRectF(50, 0, 200, 200));
     EXPECT_EQ(widget.To_Widget(0, 0), QPointF(150, 100));
     EXPECT_EQ(widget.To_Widget(10, -10), QPointF(250, 0));
 }

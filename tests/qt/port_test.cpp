@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrinterInfo>
@@ -86,6 +87,16 @@ TEST_F(PortTest, TextsOfBoxesArePlainAndBreakAtEitherMark) {
         box.accept();
     });
     port.Show_Message({"a < b\r<i>c</i>\r\nd & e"});
+}
+
+TEST_F(PortTest, LinesOfBoxesAreNotBrokenOnceMore) {
+    Await([](QDialog& dialog) {
+        const auto& label = Find<QLabel>(dialog, "qt_msgbox_label");
+        EXPECT_GE(label.width(), label.fontMetrics().size(0, label.text()).width());
+        dialog.reject();
+    });
+    port.Show_Message(
+        {"Number of harmonics cannot exceed 1/2 the number of data points available.\rIf you want more"});
 }
 
 TEST_F(PortTest, AQuestionShowsTheUsualPointerAndTheBusyOneComesBack) {

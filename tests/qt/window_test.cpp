@@ -7,6 +7,9 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "catalogue/names.h"
+#include "kinematics/examples.h"
+#include "kinematics/step_count.h"
 #include "screens/launch_screens.h"
 #include "startup/launch.h"
 
@@ -72,6 +75,24 @@ void WindowTest::Click(QWidget& form, const char* name) {
 
 void WindowTest::Press(FormWindow& form, const char* name) {
     Find<QPushButton>(form, name).click();
+}
+
+void WindowTest::Select(const char* example, std::initializer_list<const char*> functions,
+                        const char* component) {
+    Load_Example(program->model, *Find_Example(example));
+    Calculate_Model(*program);
+    Change_Catalog_Labels(program->catalogue, program->model.LinkageType);
+    std::int16_t k = 0;
+    for (const char* function : functions) {
+        SlotBoxes boxes = {function, component};
+        Confirm_Slot(program->catalogue, program->selections, boxes, ++k);
+        for (PlotSelectScreen* form : {&screens.frm_PlotSelect1, &screens.frm_PlotSelect2,
+                                       &screens.frm_PlotSelect3, &screens.frm_PlotSelect4}) {
+            form->lbl_Function.at(static_cast<std::size_t>(k) - 1).caption = function;
+            form->lbl_Component.at(static_cast<std::size_t>(k) - 1).caption = component;
+        }
+    }
+    program->selections.SelCount = k;
 }
 
 void WindowTest::Follow(std::vector<Stop> route) {

@@ -44,6 +44,10 @@ class WindowTest : public ::testing::Test {
     /// Runs `look` again and again, also while a window that it opened waits.
     void Every_Moment(const std::function<void()>& look);
 
+    /// Calculates an example and selects these functions, with this component, on every selection screen.
+    void Select(const char* example, std::initializer_list<const char*> functions,
+                const char* component = "Mag");
+
     struct Stop {
         ScreenId screen;
         std::function<void(FormWindow& form)> act;
@@ -73,7 +77,13 @@ inline constexpr ScreenId kScreensWithWindow[] = {
     ScreenId::frm_MassProp,    ScreenId::frm_Matrix,      ScreenId::frm_About,
     ScreenId::frm_Quit,        ScreenId::frm_PlotType,    ScreenId::frm_PlotSelect1,
     ScreenId::frm_PlotSelect2, ScreenId::frm_PlotSelect3, ScreenId::frm_PlotSelect4,
-    ScreenId::frm_PrintSelect, ScreenId::frm_PrintData,   ScreenId::frm_SelfCheck,
+    ScreenId::frm_PrintSelect, ScreenId::frm_PrintData,   ScreenId::frm_Flywheel,
+    ScreenId::frm_FFT,         ScreenId::frm_SelfCheck,
+};
+/// They open without a box only where functions are selected.
+inline constexpr ScreenId kPlotScreens[] = {
+    ScreenId::frm_Plot1,   ScreenId::frm_Plot2,   ScreenId::frm_Plot3,   ScreenId::frm_Plot4,
+    ScreenId::frm_Myplot2, ScreenId::frm_MyPlot3, ScreenId::frm_MyPlot4,
 };
 
 }  // namespace kervol

@@ -283,7 +283,6 @@ class AnimateWays : public ScreensTest {
 };
 
 TEST_F(AnimateWays, HomeOpensItOverItselfFromTheFirstStep) {
-    EXPECT_TRUE(home.cmd_Animate.unavailable.empty());
     program->animation.CurrentStep = 9;
     port.opening[ScreenId::frm_Animate] = [&] { EXPECT_EQ(program->animation.CurrentStep, 0); };
     home.cmd_Animate.click();

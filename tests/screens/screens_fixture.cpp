@@ -69,6 +69,12 @@ std::optional<std::string> ScreenPort::Ask_File_To_Save(const FileDialog& dialog
     return name;
 }
 
+void ScreenPort::Print_Screen(ScreenId screen) {
+    if (printer_breaks) Raise(fault::DeviceIO);
+    RecordingPort::Print_Screen(screen);
+    if (while_printing) while_printing();
+}
+
 std::unique_ptr<Printer> ScreenPort::Ask_Printer() {
     if (printer_breaks) Raise(fault::DeviceIO);
     return RecordingPort::Ask_Printer();

@@ -35,6 +35,7 @@ class ScreenPort : public RecordingPort {
     void Show_Classes() override;
     std::optional<std::string> Ask_File_To_Open(const FileDialog& dialog) override;
     std::optional<std::string> Ask_File_To_Save(const FileDialog& dialog) override;
+    void Print_Screen(ScreenId screen) override;
     std::unique_ptr<Printer> Ask_Printer() override;
 
     Screens* all = nullptr;
@@ -42,9 +43,10 @@ class ScreenPort : public RecordingPort {
     std::map<ScreenId, std::function<void()>> opening;  ///< runs before the screen is filled
     std::map<ScreenId, std::function<void()>> script;   ///< what a person does on it while it is open
     std::function<void()> while_box;                    ///< runs while a box stands
+    std::function<void()> while_printing;               ///< runs while a screen is printed
     std::deque<std::optional<std::string>> files;       ///< answers of the next file dialogs; then Cancel
     std::deque<Answer> answers;                         ///< answers of the next boxes; then their preset
-    bool printer_breaks = false;                        ///< choosing a printer is fault 57
+    bool printer_breaks = false;                        ///< printing is fault 57
 };
 
 class ScreensTest : public ::testing::Test {

@@ -156,6 +156,7 @@ TEST_F(SelectionOpening, PlotStyleIsThatOfTheScreen) {
     EXPECT_EQ(selections.PlotStyle, 1);
     Open(two);
     EXPECT_EQ(two.opt_Plotstyle[0].caption, "Annotated");
+    EXPECT_EQ(two.opt_Plotstyle[1].caption, "Aligned");
     Choose(two.opt_Plotstyle, 1);
     EXPECT_EQ(selections.PlotStyle, 2);
     Open(four);

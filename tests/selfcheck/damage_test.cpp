@@ -2,6 +2,7 @@
 // A value of the tables that was changed behind the program's back is found, and named.
 #include <cmath>
 
+#include "selfcheck/self_check_summary.h"
 #include "selfcheck/self_check_text.h"
 #include "selfcheck/selfcheck_fixture.h"
 

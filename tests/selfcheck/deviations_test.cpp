@@ -27,9 +27,8 @@ class Deviations : public SelfCheckTest {
 
     std::string Applying(const SelfCheck& result) const {
         std::string names;
-        for (const DeviationEffect& effect : result.effects)
-            if (Applies(effect.deviation, model, result))
-                names += (names.empty() ? "" : ", ") + std::string(Deviation_Name(effect.deviation));
+        for (const DeviationEffect& effect : Applying_Deviations(model, result))
+            names += (names.empty() ? "" : ", ") + std::string(Deviation_Name(effect.deviation));
         return names;
     }
 

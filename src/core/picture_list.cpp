@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "qt/picture_list.h"
+#include "core/picture_list.h"
 
 #include "core/arithmetic.h"
-#include "core/fault.h"
 
 namespace kervol {
 
@@ -26,7 +25,7 @@ void PictureList::Clear() {
 }
 
 void PictureList::Set_Scale(double left, double top, double right, double bottom) {
-    if (Is_Same(left, right) || Is_Same(top, bottom)) Raise(fault::InvalidCall);
+    Check_Scale(left, top, right, bottom);
     const bool same = Is_Same(left, window_.left) && Is_Same(top, window_.top) &&
                       Is_Same(right, window_.right) && Is_Same(bottom, window_.bottom);
     if (same) return;
