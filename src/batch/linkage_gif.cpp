@@ -56,6 +56,7 @@ class LinkageCanvas {
 
     std::vector<PixelPoint> Pixels(const std::vector<UserPoint>& points) const {
         std::vector<PixelPoint> pixels;
+        pixels.reserve(points.size());
         for (const UserPoint point : points) pixels.push_back(At(point));
         return pixels;
     }

@@ -31,7 +31,7 @@ std::string Add_Spectrum(BatchRun& run, const Arguments& arguments, FurtherTable
     if (!run.Is_Calculated()) return {};
     Change_Catalog_Labels(program.catalogue, program.model.LinkageType);
     SlotLabels labels;
-    const std::string objection = Choose_And_Compute(run, [&] {
+    std::string objection = Choose_And_Compute(run, [&] {
         return Choose_Functions(program, {arguments.function + ":" + arguments.component}, labels);
     });
     if (objection.empty()) Transform_Function(program, arguments.function, arguments.component);

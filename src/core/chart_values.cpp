@@ -12,7 +12,8 @@ std::string Chart_Values(const ChartLook& look) {
         // Of a chart with one curve its title says what is shown.
         const std::string name =
             look.GraphTitle.empty() ? set.LegendText : look.GraphTitle + " " + set.LegendText;
-        text += look.polar ? "\t" + name + " X\t" + name + " Y" : "\t" + name;
+        text.append("\t").append(name);
+        if (look.polar) text.append(" X\t").append(name).append(" Y");
     }
     text += '\n';
     for (std::size_t point = 0; point < look.LabelText.size(); ++point) {

@@ -24,8 +24,9 @@ SheetBox Cell(std::size_t index, std::size_t count, PageSize size) {
         return (all - 2 * kMargin - double(parts - 1) * kGap) / double(parts);
     };
     const double width = along(size.width, columns), height = along(size.height, rows);
-    return {kMargin + double(index % columns) * (width + kGap),
-            kMargin + double(index / columns) * (height + kGap), width, height};
+    const std::size_t column = index % columns, row = index / columns;
+    return {kMargin + double(column) * (width + kGap), kMargin + double(row) * (height + kGap), width,
+            height};
 }
 
 /// A line of small text about a point.

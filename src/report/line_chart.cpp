@@ -130,7 +130,7 @@ class ChartDrawing {
         const std::string bottom = Number(Y(y_.low));
         for (int i = 0; i < x_ticks_.count; ++i) {
             const std::string x = Number(X(x_ticks_.Value(i)));
-            lines += "M" + x + " " + Number(kTop) + "V" + bottom;
+            lines.append("M").append(x).append(" ").append(Number(kTop)).append("V").append(bottom);
             texts += "<text class=\"tick\" text-anchor=\"middle\" x=\"" + x + "\" y=\"" +
                      Number(Y(y_.low) + 15) + "\">" + Tick_Text(x_ticks_.Value(i), x_ticks_) + "</text>\n";
         }

@@ -91,11 +91,12 @@ void Quit_Form_Activate(Screens& screens) {
 #define CLOSES(button) [](const Screens& all) -> const Button& { return all.button; }
 #define ACTIVATES(form) [](Screens& all) { Selection_Form_Activate(all.program, all.form); }
 
-#define PLOTS_ON(form)                                                                      \
-    {                                                                                       \
-        ScreenId::form, #form, "", [](Screens& all) { Plot_Form_Activate(all, all.form); }, \
-            CLOSES(form.cmd_Replot)                                                         \
-    }
+/// A screen of plots: `kForm` is the member of `Screens`.
+template <auto kForm>
+constexpr ScreenRow Plots_On(ScreenId id, const char* name) {
+    return {id, name, "", [](Screens& all) { Plot_Form_Activate(all, all.*kForm); },
+            [](const Screens& all) -> const Button& { return (all.*kForm).cmd_Replot; }};
+}
 
 /// In the order of `ScreenId`.
 constexpr auto kScreens = std::to_array<ScreenRow>({
@@ -121,13 +122,13 @@ constexpr auto kScreens = std::to_array<ScreenRow>({
      CLOSES(frm_PlotSelect3.cmd_Cancel)},
     {ScreenId::frm_PlotSelect4, "frm_PlotSelect4", "Select Plot Data", ACTIVATES(frm_PlotSelect4),
      CLOSES(frm_PlotSelect4.cmd_Cancel)},
-    PLOTS_ON(frm_Plot1),
-    PLOTS_ON(frm_Plot2),
-    PLOTS_ON(frm_Plot3),
-    PLOTS_ON(frm_Plot4),
-    PLOTS_ON(frm_Myplot2),
-    PLOTS_ON(frm_MyPlot3),
-    PLOTS_ON(frm_MyPlot4),
+    Plots_On<&Screens::frm_Plot1>(ScreenId::frm_Plot1, "frm_Plot1"),
+    Plots_On<&Screens::frm_Plot2>(ScreenId::frm_Plot2, "frm_Plot2"),
+    Plots_On<&Screens::frm_Plot3>(ScreenId::frm_Plot3, "frm_Plot3"),
+    Plots_On<&Screens::frm_Plot4>(ScreenId::frm_Plot4, "frm_Plot4"),
+    Plots_On<&Screens::frm_Myplot2>(ScreenId::frm_Myplot2, "frm_Myplot2"),
+    Plots_On<&Screens::frm_MyPlot3>(ScreenId::frm_MyPlot3, "frm_MyPlot3"),
+    Plots_On<&Screens::frm_MyPlot4>(ScreenId::frm_MyPlot4, "frm_MyPlot4"),
     {ScreenId::frm_PrintSelect, "frm_PrintSelect", "Print Select", Print_Select_Form_Activate,
      CLOSES(frm_PrintSelect.cmd_Cancel)},
     {ScreenId::frm_PrintData, "frm_PrintData", "Output Screen", nullptr, CLOSES(frm_PrintData.cmd_Cancel)},
@@ -139,7 +140,6 @@ constexpr auto kScreens = std::to_array<ScreenRow>({
     {ScreenId::frm_Quit, "frm_Quit", nullptr, Quit_Form_Activate, CLOSES(frm_Quit.cmd_NoQuit)},
 });
 
-#undef PLOTS_ON
 #undef ACTIVATES
 #undef CLOSES
 
