@@ -38,10 +38,8 @@ int Check_Model(Console& console, const Arguments& arguments) {
 
 Command Check_Command(CLI::App& app) {
     const auto arguments = std::make_shared<Arguments>();
-    CLI::App& command = *app.add_subcommand(
-        "check",
-        "Calculate a model and tell how far its numbers can be trusted, and where they differ from "
-        "rigid links on purpose");
+    CLI::App& command =
+        *app.add_subcommand("check", "Calculate a model and tell how far its numbers can be trusted");
     Add_Source_Options(command, arguments->source);
     command.add_flag("--json", arguments->json, "as JSON, with the consistent values of every step");
     Add_Output_Option(command, arguments->output, "write there instead of to standard output");

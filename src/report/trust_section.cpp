@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "animation/link_shapes.h"
 #include "report/page_parts.h"
 #include "selfcheck/deviation_texts.h"
 #include "selfcheck/self_check_summary.h"
@@ -59,7 +60,7 @@ std::string Drive_Panel(const LinkageModel& model, const SelfCheck& check) {
     for (const DriveLine& line : Drive_Lines(model, check))
         table.Add_Row(
             {line.name + " [" + line.unit + "]", Four_Digits(line.tabulated), Four_Digits(line.consistent)});
-    return Panel("What the drive needs", table.Text() + Paragraphs({Two_Ways_Text(check)}));
+    return Panel("What the drive needs", table.Text() + Paragraphs({Of_Steps_Alone, Two_Ways_Text(check)}));
 }
 
 std::string Deviations_Panel(const LinkageModel& model, const SelfCheck& check) {

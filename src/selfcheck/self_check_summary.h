@@ -27,6 +27,12 @@ struct DriveLine {
 /// Torque and power of the drive, where there are forces.
 std::vector<DriveLine> Drive_Lines(const LinkageModel& model, const SelfCheck& result);
 
+/// Stands below them.
+inline constexpr const char* Of_Steps_Alone =
+    "These are figures of the steps alone: between two of them a peak may be higher. Divide more finely "
+    "where it is "
+    "sharp.";
+
 /// How closely the consistent driving torque was met on two ways.
 std::string Two_Ways_Text(const SelfCheck& result);
 

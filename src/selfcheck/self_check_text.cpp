@@ -67,14 +67,14 @@ void Put_Drive(Out& out, const LinkageModel& model, const SelfCheck& result) {
         out << "  " << std::left << std::setw(14) << line.name << std::setw(12) << line.unit << std::right
             << std::setw(kNumberWidth) << Four_Digits(line.tabulated) << std::setw(kNumberWidth)
             << Four_Digits(line.consistent) << '\n';
+    Put_Paragraph(out, Of_Steps_Alone, 2);
     Put_Paragraph(out, Two_Ways_Text(result), 2);
 }
 
 /// Those that a designer asks for first, as far as they differ.
 std::vector<const CheckedValue*> Shown_Values(const SelfCheck& result) {
     std::vector<const CheckedValue*> shown;
-    for (const char* name :
-         {"Omega5", "Omega6", "Alpha6", "Accel CG 5", "Torque 12", "Force 14", "F Shaking"}) {
+    for (const char* name : {"Omega6", "Alpha6", "Accel CG 5", "Torque 12", "Force 14", "F Shaking"}) {
         const CheckedValue* check = Find_Check(result, name);
         if (check != nullptr && check->verdict != Verdict::Agrees && shown.size() < kShownValues)
             shown.push_back(check);

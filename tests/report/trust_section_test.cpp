@@ -6,7 +6,7 @@
 
 #include "dynamics/solve_forces.h"
 #include "kinematics/examples.h"
-#include "kinematics/sweep.h"
+#include "kinematics/step_count.h"
 #include "report/report_page.h"
 #include "support/program_test.h"
 
