@@ -116,7 +116,7 @@ class Page {
             lines.push_back({"Forces", "not calculated"});
         else if (solved_steps_ <= last)
             lines.push_back({"Forces not solved", "from step " + std::to_string(solved_steps_) + " on"});
-        if (!check_.checks.empty()) lines.push_back({"Trust", Trust_In_Short(check_)});
+        if (!check_.checks.empty()) lines.push_back({"Trust", Trust_In_Short(model_, check_)});
         return lines;
     }
 

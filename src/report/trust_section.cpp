@@ -118,12 +118,16 @@ std::string Trust_Section(const LinkageModel& model, const SelfCheck& check, con
     return text + "</div></section>\n";
 }
 
-std::string Trust_In_Short(const SelfCheck& check) {
-    if (!check.Tables_Hold()) return "some are damaged; see the self-check";
+std::string Trust_In_Short(const LinkageModel& model, const SelfCheck& check) {
+    if (!check.Tables_Hold()) return "some values are damaged; see the self-check";
     const int differ = check.Count(Verdict::OnPurpose), all = static_cast<int>(check.checks.size());
     if (differ == 0) return "all " + std::to_string(all) + " checked values are those of rigid links";
-    return std::to_string(differ) + " of " + std::to_string(all) +
-           " checked values differ from rigid links on purpose; see the self-check";
+    std::string text = std::to_string(differ) + " of " + std::to_string(all) +
+                       " checked values differ from rigid links on purpose; see the self-check";
+    const CheckedValue* torque = Find_Check(check, "Torque 12");
+    if (torque == nullptr || torque->verdict == Verdict::Agrees) return text;
+    return text + ". A motor needs a peak of " + Four_Digits(check.consistent_drive.peak_torque) + " " +
+           model.UnitText(9);
 }
 
 }  // namespace kervol

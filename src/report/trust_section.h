@@ -22,7 +22,8 @@ std::vector<CurveGroup> Deviating_Curves(const LinkageModel& model, const SelfCh
 /// Empty where nothing was compared.
 std::string Trust_Section(const LinkageModel& model, const SelfCheck& check, const Abscissae& abscissae);
 
-/// "All values are those of rigid links", or how many are not, in one line.
-std::string Trust_In_Short(const SelfCheck& check);
+/// How many values are those of rigid links, and the consistent peak torque where the tabulated one is not,
+/// in one line.
+std::string Trust_In_Short(const LinkageModel& model, const SelfCheck& check);
 
 }  // namespace kervol

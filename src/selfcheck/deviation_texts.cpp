@@ -88,8 +88,9 @@ std::string Frame_Text(const LinkageModel& model, const SelfCheck&) {
 }
 
 std::string Transmission_Text(const LinkageModel&, const SelfCheck& result) {
-    return "Transmission angles are differences of tabulated angles, that of Stage 1 folded at 90 degrees "
-           "only after the value that its row held before. The consistent one is the acute angle between the "
+    return "Transmission angles are differences of tabulated angles. That of Stage 1 is folded at 90 degrees "
+           "only after the value that its row held before; that of Stage 2 once, though its angles may lie "
+           "more than 270 degrees apart. The consistent one is the acute angle between the "
            "two links, 0 to 90 degrees." +
            Largest_Text(result, "Trans Ang-1") + Largest_Text(result, "Trans Ang-2");
 }

@@ -93,9 +93,12 @@ TEST_F(TrustSection, TellsTheDriveWhatItNeeds) {
     EXPECT_THAT(page, HasSubstr(kHeading));
     EXPECT_THAT(page, HasSubstr("Size a motor on the consistent driving torque, not on the tabulated one"));
     EXPECT_THAT(page, HasSubstr("<h3>What the drive needs</h3>"));
-    EXPECT_THAT(page, HasSubstr("<th>Peak torque [in-lb]</th>"));
+    EXPECT_THAT(page, HasSubstr("<th>Peak torque [lb-in]</th>"));
     EXPECT_THAT(page, HasSubstr("<th>Centre of gravity of link 5</th>"));
-    EXPECT_THAT(page, HasSubstr("checked values differ from rigid links on purpose"));
+    EXPECT_THAT(
+        page,
+        HasSubstr("<th>Trust</th><td>18 of 79 checked values differ from rigid links on purpose; see the "
+                  "self-check. A motor needs a peak of -18.04 lb-in</td>"));
 }
 
 TEST_F(TrustSection, OfALink5WithoutMassRecommendsTheTabulatedTorqueAndDrawsNone) {
@@ -139,7 +142,7 @@ TEST_F(TrustSection, SaysAtAGlanceThatATableIsDamaged) {
     EXPECT_THAT(Report_Page(*program), Not(HasSubstr("some are damaged")));
     tables.Omega(3, 4) += 1;
     EXPECT_THAT(Report_Page(*program),
-                HasSubstr("<th>Trust</th><td>some are damaged; see the self-check</td>"));
+                HasSubstr("<th>Trust</th><td>some values are damaged; see the self-check</td>"));
 }
 
 TEST_F(TrustSection, IsNotThereWhereNothingWasCalculated) {
