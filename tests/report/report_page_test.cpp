@@ -127,7 +127,8 @@ TEST_F(ReportTest, OfOnePositionHasNoCharts) {
     ASSERT_EQ(Calculate_Model(*program), CalculationEnd::Done);
     Run_Dynamics(*program);
     const std::string page = Report_Page(*program);
-    EXPECT_THAT(Headings(page), ElementsAre("Model", "Extremes"));
+    EXPECT_THAT(Headings(page), ElementsAre("Model", "Extremes", "How far the numbers can be trusted"));
+    EXPECT_EQ(Count(page, "<svg class=\"chart\""), 0U);
 }
 
 TEST_F(ReportTest, OfAChainWithoutStage2ShowsStage1) {
