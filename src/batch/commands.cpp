@@ -31,6 +31,7 @@ constexpr auto kCommands = std::to_array<Command (*)(CLI::App& app)>({
     Report_Command,
     Limits_Command,
     Study_Command,
+    Check_Command,
 });
 
 int Run_Chosen(const CLI::App& app, const std::vector<Command>& commands, Console& console) {

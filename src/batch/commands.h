@@ -33,5 +33,6 @@ Command Compare_Command(CLI::App& app);
 Command Report_Command(CLI::App& app);
 Command Limits_Command(CLI::App& app);
 Command Study_Command(CLI::App& app);
+Command Check_Command(CLI::App& app);
 
 }  // namespace kervol

@@ -29,6 +29,7 @@ class JsonWriter {
     void Value(const char* text) { Value(std::string_view(text)); }
     void Value(bool flag) { Put(flag ? "true" : "false"); }
     void Value(float number) { Put(Plain_Number(number)); }
+    void Value(double number) { Put(Plain_Number(number)); }
     void Value(std::integral auto number) { Put(std::to_string(number)); }
 
     /// A table as nested lists.

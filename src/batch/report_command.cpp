@@ -44,7 +44,8 @@ Command Report_Command(CLI::App& app) {
     command.footer(
         "The page needs nothing beside itself: data with units, the linkage in motion, plots, extremes, "
         "forces,\n"
-        "flywheel, spectrum of the torque and messages. It follows a dark screen and prints well.");
+        "flywheel, spectrum of the torque, the self-check and messages. It follows a dark screen and prints "
+        "well.");
     Add_Source_Options(command, wish->source);
     Add_Output_Option(command, wish->file, "file to write (.html), else standard output");
     command.callback([wish] { Require_One_Source(wish->source); });

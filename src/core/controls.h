@@ -37,6 +37,11 @@ struct TextField : Control {
     Event change, lost_focus, enter;
 };
 
+/// A long text to be read, in a font of one width.
+struct TextView : Control {
+    std::string text;
+};
+
 struct Frame : Control {
     std::string caption;
 };

@@ -63,6 +63,7 @@ enum class ScreenId {
     frm_PrintData,
     frm_Flywheel,
     frm_FFT,
+    frm_SelfCheck,
     frm_Quit,
 };
 inline constexpr std::size_t NumScreens = static_cast<std::size_t>(ScreenId::frm_Quit) + 1;
@@ -112,6 +113,8 @@ class Port {
     virtual void Print_Screen(ScreenId screen) = 0;
     /// Puts an image of the screen on the clipboard.
     virtual void Copy_Screen(ScreenId screen) = 0;
+    /// Puts a text on the clipboard.
+    virtual void Copy_Text(const std::string& text) = 0;
     /// Shows the printer dialog. A printer with an empty document; nothing after Cancel, or where no lines
     /// can be printed.
     virtual std::unique_ptr<Printer> Ask_Printer() { return nullptr; }

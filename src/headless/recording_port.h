@@ -33,6 +33,7 @@ class RecordingPort : public Port {
     bool Hold_Picture(double milliseconds) override;
     void Print_Screen(ScreenId screen) override { printed.push_back(screen); }
     void Copy_Screen(ScreenId screen) override { copied.push_back(screen); }
+    void Copy_Text(const std::string& text) override { clipboard = text; }
     std::unique_ptr<Printer> Ask_Printer() override;
     std::string User_Name() override { return user_name; }
     std::string Long_Path(const std::string& path) override;
@@ -55,6 +56,7 @@ class RecordingPort : public Port {
     std::vector<ScreenId> hidden;
     std::vector<ScreenId> printed;
     std::vector<ScreenId> copied;
+    std::string clipboard;                 ///< the text that was put there last
     std::vector<bool> runs;                ///< beginnings and ends of runs
     std::vector<double> holds;             ///< milliseconds
     std::list<PrintedDocument> documents;  ///< a list, since printers keep hold of them

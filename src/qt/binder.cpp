@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -149,6 +150,16 @@ void Binder::Add(const std::string& name, TextField& field) {
             if (selected) widget->selectAll();
         }
         Push_Common(*widget, field);
+    });
+}
+
+void Binder::Add(const std::string& name, TextView& view) {
+    auto* widget = Take<QPlainTextEdit>(name);
+    if (widget == nullptr) return;
+    Push_Later([this, widget, &view] {
+        const QString text = Qt_Text(view.text);
+        if (widget->toPlainText() != text) widget->setPlainText(text);
+        Push_Common(*widget, view);
     });
 }
 

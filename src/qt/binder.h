@@ -38,6 +38,7 @@ class Binder : public QObject {
     void Add(const std::string& name, Label& label);
     void Add(const std::string& name, Button& button);
     void Add(const std::string& name, TextField& field);
+    void Add(const std::string& name, TextView& view);
     void Add(const std::string& name, Frame& frame);
     void Add(const std::string& name, CheckBox& box);
     void Add(const std::string& name, ScrollBar& bar);

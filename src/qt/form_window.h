@@ -54,6 +54,7 @@ void Lay_Out_Print_Select(FormWindow& form);
 void Lay_Out_Print_Data(FormWindow& form);
 void Lay_Out_Flywheel(FormWindow& form);
 void Lay_Out_FFT(FormWindow& form);
+void Lay_Out_Self_Check(FormWindow& form);
 void Lay_Out_Quit(FormWindow& form);
 
 }  // namespace kervol

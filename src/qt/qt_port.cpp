@@ -151,6 +151,9 @@ void QtPort::Lay_Out(ScreenId screen, OpenForm& form) {
         case ScreenId::frm_FFT:
             Lay_Out_FFT(*form.window);
             return Bind(form, screens_->frm_FFT);
+        case ScreenId::frm_SelfCheck:
+            Lay_Out_Self_Check(*form.window);
+            return Bind(form, screens_->frm_SelfCheck);
     }
 }
 

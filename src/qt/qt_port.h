@@ -42,6 +42,7 @@ class QtPort : public Port {
     bool Hold_Picture(double milliseconds) override;
     void Print_Screen(ScreenId screen) override;
     void Copy_Screen(ScreenId screen) override;
+    void Copy_Text(const std::string& text) override;
     std::unique_ptr<Printer> Ask_Printer() override;
     std::string User_Name() override;
     std::string Long_Path(const std::string& path) override;

@@ -74,4 +74,8 @@ void QtPort::Copy_Screen(ScreenId screen) {
     QApplication::clipboard()->setPixmap(Form(screen).grab());
 }
 
+void QtPort::Copy_Text(const std::string& text) {
+    QApplication::clipboard()->setText(Qt_Text(text));
+}
+
 }  // namespace kervol

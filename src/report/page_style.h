@@ -19,6 +19,8 @@ header{border-bottom:2px solid var(--line);padding-bottom:14px;margin-bottom:8px
 h1{font-size:28px;line-height:1.2;margin:2px 0 6px}
 h2{font-size:19px;margin:34px 0 12px}
 h3{font-size:15px;margin:0 0 8px}
+.panel p{margin:0 0 8px}.panel table+p{margin-top:12px}
+.panel+.columns,.columns+.panel{margin-top:20px}
 .soft{color:var(--soft);margin:0}
 .columns{display:grid;grid-template-columns:repeat(auto-fit,minmax(min(100%,480px),1fr));gap:20px 28px;align-items:start}
 figure,.panel{margin:0;background:var(--panel);border:1px solid var(--line);border-radius:8px;padding:12px}

@@ -16,6 +16,7 @@
 #include "report/page_style.h"
 #include "report/report_curves.h"
 #include "report/torque_analysis.h"
+#include "report/trust_section.h"
 
 namespace kervol {
 namespace {
@@ -44,6 +45,7 @@ class Page {
         const auto further = torque_.Boxes();
         boxes_.insert(boxes_.end(), further.begin(), further.end());
         if (!model_.DataCalculated) return;
+        check_ = Check_Of_Report(program_, notes.solved_steps);
         motion_ = Motion_Curves(program_);
         forces_ = Force_Curves(torque_.program(), notes.solved_steps);
     }
@@ -57,6 +59,7 @@ class Page {
         text += Head() + Overview() + Data();
         if (model_.DataCalculated)
             text += Limits_Section(model_) + Plots() + Extremes_Section() + Flywheel() + Spectrum();
+        text += Trust_Section(model_, check_, abscissae_);
         return text + Messages() + Foot() + "</main></body></html>\n";
     }
 
@@ -115,6 +118,7 @@ class Page {
             lines.push_back({"Forces", "not calculated"});
         else if (solved_steps_ <= last)
             lines.push_back({"Forces not solved", "from step " + std::to_string(solved_steps_) + " on"});
+        if (!check_.checks.empty()) lines.push_back({"Trust", Trust_In_Short(model_, check_)});
         return lines;
     }
 
@@ -275,6 +279,7 @@ class Page {
     TorqueAnalysis torque_;
     std::vector<MessageBox> boxes_;
     Abscissae abscissae_;
+    SelfCheck check_;
     std::vector<CurveGroup> motion_, forces_;
 };
 

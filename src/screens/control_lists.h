@@ -100,6 +100,8 @@ void Visit_Controls(HomeScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(mnu_Double);
     KERVOL_CONTROL(mnu_FFT);
     KERVOL_CONTROL(mnu_CalcFFT);
+    KERVOL_CONTROL(mnu_Tools);
+    KERVOL_CONTROL(mnu_SelfCheck);
     KERVOL_CONTROL(mnu_Version);
     KERVOL_CONTROL(mnu_About);
     KERVOL_CONTROL(mnu_Disclaimer);
@@ -407,6 +409,13 @@ void Visit_Controls(FFTScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(cmd_Copy);
     KERVOL_CONTROL(cmd_Calc);
     KERVOL_CONTROL(cmd_Done);
+}
+
+template <class Visitor>
+void Visit_Controls(SelfCheckScreen& screen, Visitor&& visit) {
+    KERVOL_CONTROL(txt_Report);
+    KERVOL_CONTROL(cmd_Back);
+    KERVOL_CONTROL(cmd_Copy);
 }
 
 template <class Visitor>

@@ -59,6 +59,8 @@ HomeScreen::HomeScreen() {
     mnu_Double.caption = "&Double Dwell Linkage";
     mnu_FFT.caption = "&FFT";
     mnu_CalcFFT.caption = "&Calculate FFT";
+    mnu_Tools.caption = "&Tools";
+    mnu_SelfCheck.caption = "Self-check...";
     mnu_Version.caption = "&Help";
     mnu_About.caption = "&About Kervol";
     mnu_Disclaimer.caption = "&Disclaimer";
@@ -66,6 +68,11 @@ HomeScreen::HomeScreen() {
 
 AboutScreen::AboutScreen() {
     lblHeader.caption = "A Program for the Kinematic Analysis and Synthesis of Kervol Linkages";
+}
+
+SelfCheckScreen::SelfCheckScreen() {
+    cmd_Back.caption = "< &Back";
+    cmd_Copy.caption = "&Copy";
 }
 
 QuitScreen::QuitScreen() {

@@ -221,6 +221,7 @@ void Update_Home_Menu(Screens& screens) {
         entry->enabled = model.DataCalculated;
     home.mnu_Report.enabled = model.DataCalculated;
     home.mnu_CalcFFT.enabled = model.DataCalculated && model.CalcMode == 3;
+    home.mnu_SelfCheck.enabled = model.DataCalculated;
     home.mnu_Export_Torque.enabled = model.DynamicsCalculated;
     if (model.CalcMode == 3) home.cmd_Flywheel.enabled = model.DynamicsCalculated;
     Update_Home_Buttons(screens);
@@ -272,6 +273,7 @@ void Wire_Home_Screen(Screens& screens) {
     on(home.mnu_Hoeken.click, "frm_Homescreen.Example", example("hoeken"));
     on(home.mnu_Roberts.click, "frm_Homescreen.Example", example("roberts"));
     on(home.mnu_Double.click, "frm_Homescreen.Example", example("double-dwell"));
+    on(home.mnu_SelfCheck.click, "frm_Homescreen.SelfCheck", opens(ScreenId::frm_SelfCheck));
     on(home.mnu_About.click, "frm_Homescreen.About", opens(ScreenId::frm_About));
     on(home.mnu_Disclaimer.click, "frm_Homescreen.Disclaimer", mnu_Disclaimer_Click);
 }

@@ -21,6 +21,7 @@
 #include "screens/plot_select_events.h"
 #include "screens/print_select_events.h"
 #include "screens/selection_rules.h"
+#include "screens/self_check_events.h"
 #include "startup/launch.h"
 
 namespace kervol {
@@ -134,6 +135,8 @@ constexpr auto kScreens = std::to_array<ScreenRow>({
     {ScreenId::frm_Flywheel, "frm_Flywheel", "Flywheel Screen", Flywheel_Form_Activate,
      CLOSES(frm_Flywheel.cmd_Cancel)},
     {ScreenId::frm_FFT, "frm_FFT", "Fourier Transform", FFT_Form_Activate, CLOSES(frm_FFT.cmd_Cancel)},
+    {ScreenId::frm_SelfCheck, "frm_SelfCheck", "Self-check", Self_Check_Form_Activate,
+     CLOSES(frm_SelfCheck.cmd_Back)},
     {ScreenId::frm_Quit, "frm_Quit", nullptr, Quit_Form_Activate, CLOSES(frm_Quit.cmd_NoQuit)},
 });
 
@@ -189,6 +192,7 @@ void Wire_Screens(Screens& screens) {
     Wire_Print_Select_Screens(screens);
     Wire_Flywheel_Screen(screens);
     Wire_FFT_Screen(screens);
+    Wire_Self_Check_Screen(screens);
     on(screens.frm_Title.cmd_Start.click, "frm_Title.Start", cmd_Start_Click);
     on(screens.frm_Title.cmd_Abort.click, "frm_Title.Abort",
        [](Screens& all) { all.program.port.Show_Screen(ScreenId::frm_Quit, Modality::Modal); });

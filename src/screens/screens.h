@@ -48,6 +48,7 @@ struct HomeScreen {
     std::array<MenuItem, 6> mnu_pick;  ///< 1 to 5; 0 stays unused
     MenuItem mnu_Examples, mnu_Test, mnu_Hoeken, mnu_Roberts, mnu_Double;
     MenuItem mnu_FFT, mnu_CalcFFT;
+    MenuItem mnu_Tools, mnu_SelfCheck;
     MenuItem mnu_Version, mnu_About, mnu_Disclaimer;
 };
 
@@ -55,6 +56,13 @@ struct AboutScreen {
     AboutScreen();
 
     Label lblHeader, lbl_Version;
+};
+
+struct SelfCheckScreen {
+    SelfCheckScreen();
+
+    TextView txt_Report;
+    Button cmd_Back, cmd_Copy;
 };
 
 struct QuitScreen {
@@ -93,6 +101,7 @@ struct Screens {
     PrintDataScreen frm_PrintData;
     FlywheelScreen frm_Flywheel;
     FFTScreen frm_FFT;
+    SelfCheckScreen frm_SelfCheck;
     QuitScreen frm_Quit;
 };
 

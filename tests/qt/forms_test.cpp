@@ -117,6 +117,9 @@ std::set<std::string> Names(Screens& screens, ScreenId screen) {
         case ScreenId::frm_FFT:
             Visit_Controls(screens.frm_FFT, list);
             break;
+        case ScreenId::frm_SelfCheck:
+            Visit_Controls(screens.frm_SelfCheck, list);
+            break;
     }
     return list.names;
 }

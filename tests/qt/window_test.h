@@ -78,7 +78,7 @@ inline constexpr ScreenId kScreensWithWindow[] = {
     ScreenId::frm_Quit,        ScreenId::frm_PlotType,    ScreenId::frm_PlotSelect1,
     ScreenId::frm_PlotSelect2, ScreenId::frm_PlotSelect3, ScreenId::frm_PlotSelect4,
     ScreenId::frm_PrintSelect, ScreenId::frm_PrintData,   ScreenId::frm_Flywheel,
-    ScreenId::frm_FFT,
+    ScreenId::frm_FFT,         ScreenId::frm_SelfCheck,
 };
 /// They open without a box only where functions are selected.
 inline constexpr ScreenId kPlotScreens[] = {

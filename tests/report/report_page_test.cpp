@@ -46,8 +46,10 @@ class ReportTest : public ProgramTest {
 TEST_F(ReportTest, OfAMotionAloneHasNoForces) {
     Calculate_Example("watt");
     const std::string page = Report_Page(*program);
-    EXPECT_THAT(Headings(page), ElementsAre("Model", "Range and limits", "Motion", "Extremes"));
-    EXPECT_EQ(Count(page, "<svg class=\"chart\""), 6U);
+    EXPECT_THAT(Headings(page), ElementsAre("Model", "Range and limits", "Motion", "Extremes",
+                                            "How far the numbers can be trusted"));
+    // Six of the motion, and its transmission angle beside the acute one.
+    EXPECT_EQ(Count(page, "<svg class=\"chart\""), 7U);
     EXPECT_THAT(page, HasSubstr("<th>Forces</th><td>not calculated</td>"));
 }
 
@@ -55,9 +57,11 @@ TEST_F(ReportTest, WithTheDynamicsHasForcesFlywheelAndSpectrum) {
     Calculate_Example("watt");
     Run_Dynamics(*program);
     const std::string page = Report_Page(*program);
-    EXPECT_THAT(Headings(page), ElementsAre("Model", "Range and limits", "Motion", "Torque and forces",
-                                            "Extremes", "Flywheel", "Spectrum of the torque"));
-    EXPECT_EQ(Count(page, "<svg class=\"chart\""), 11U);
+    EXPECT_THAT(Headings(page),
+                ElementsAre("Model", "Range and limits", "Motion", "Torque and forces", "Extremes",
+                            "Flywheel", "Spectrum of the torque", "How far the numbers can be trusted"));
+    // Six of the motion, four of the forces, the spectrum, and eight tabulated beside consistent.
+    EXPECT_EQ(Count(page, "<svg class=\"chart\""), 19U);
     EXPECT_THAT(page, HasSubstr("Areas of Crank Torque"));
 }
 
@@ -141,7 +145,9 @@ TEST_F(ReportTest, OfOnePositionHasNoCharts) {
     ASSERT_EQ(Calculate_Model(*program), CalculationEnd::Done);
     Run_Dynamics(*program);
     const std::string page = Report_Page(*program);
-    EXPECT_THAT(Headings(page), ElementsAre("Model", "Range and limits", "Extremes"));
+    EXPECT_THAT(Headings(page),
+                ElementsAre("Model", "Range and limits", "Extremes", "How far the numbers can be trusted"));
+    EXPECT_EQ(Count(page, "<svg class=\"chart\""), 0U);
 }
 
 TEST_F(ReportTest, OfAChainWithoutStage2ShowsStage1) {

@@ -232,13 +232,14 @@ TEST_F(HomeRules, EveryButtonAndEntryDoesSomething) {
     Visit_Controls(screens->frm_PrintData, controls);
     Visit_Controls(screens->frm_Flywheel, controls);
     Visit_Controls(screens->frm_FFT, controls);
+    Visit_Controls(screens->frm_SelfCheck, controls);
     Visit_Controls(screens->frm_Quit, controls);
     // Headings of menus, the place that no unit system has, and options that are read when a screen goes on.
     EXPECT_THAT(controls.dead,
-                ElementsAre("mnu_Examples", "mnu_Export", "mnu_FFT", "mnu_Import", "mnu_Units", "mnu_Version",
-                            "mnu_file", "mnu_pick_0", "opt_Coord_0", "opt_Coord_1", "opt_PickPlot_0",
-                            "opt_PickPlot_1", "opt_PickPlot_2", "opt_PickPlot_3", "opt_Whereto_0",
-                            "opt_Whereto_1", "opt_Whereto_2"));
+                ElementsAre("mnu_Examples", "mnu_Export", "mnu_FFT", "mnu_Import", "mnu_Tools", "mnu_Units",
+                            "mnu_Version", "mnu_file", "mnu_pick_0", "opt_Coord_0", "opt_Coord_1",
+                            "opt_PickPlot_0", "opt_PickPlot_1", "opt_PickPlot_2", "opt_PickPlot_3",
+                            "opt_Whereto_0", "opt_Whereto_1", "opt_Whereto_2"));
     EXPECT_TRUE(controls.names.contains("txt_Linkout_16"));
 }
 
