@@ -49,6 +49,7 @@ constexpr auto kKinds = std::to_array<FileKind>({
 /// A program with its port, calculated in twelve steps.
 struct Run {
     Run() : program(port) {
+        port.clock = DateAndTime{"2026-01-02", "03:04"};
         Start_Fresh(program);
         program.model.StartingUp = false;
         program.model.ThetaStepDeg = 30;

@@ -15,6 +15,8 @@ template <class... Lambdas>
 struct Overloaded : Lambdas... {
     using Lambdas::operator()...;
 };
+template <class... Lambdas>
+Overloaded(Lambdas...) -> Overloaded<Lambdas...>;
 
 std::string Unquoted(std::string_view text) {
     return std::string(text.substr(1, text.size() - 2));
