@@ -264,9 +264,14 @@ void Person::Do(ScreenId front, const std::string& name, const std::string& valu
     Check(where);
 }
 
+const std::vector<NamedControl>& Person::Controls_On(ScreenId screen) {
+    std::vector<NamedControl>& all = controls_.at(static_cast<std::size_t>(screen));
+    if (all.empty()) all = Controls_Of(*screens_, screen);
+    return all;
+}
+
 const NamedControl* Person::Find(ScreenId front, const std::string& name) {
-    std::vector<NamedControl>& all = controls_.at(static_cast<std::size_t>(front));
-    if (all.empty()) all = Controls_Of(*screens_, front);
+    const std::vector<NamedControl>& all = Controls_On(front);
     if (const auto number = Number_Of(name)) {
         std::vector<const NamedControl*> usable;
         for (const NamedControl& named : all)
@@ -370,6 +375,18 @@ void Person::Check(std::string_view where) {
     Demand(!screens_->frm_Inputnew.Stepping && !screens_->frm_Animate.Stepping, "the step bar counts as held",
            where);
     Demand(pointer == Pointer::Default || ended, "the pointer still says wait", where);
+    for (const OpenScreen* open : stack_) Check_Way_Out(*open);
+}
+
+void Person::Check_Way_Out(const OpenScreen& open) {
+    // Nothing stands on that screen: it is left by Escape alone.
+    if (open.closed || open.screen == ScreenId::frm_About) return;
+    const auto& all = Controls_On(open.screen);
+    const auto is_button = [](const NamedControl& named) {
+        return std::holds_alternative<Button*>(named.control) && Is_Usable(named);
+    };
+    Demand(std::any_of(all.begin(), all.end(), is_button), "no button can be pressed",
+           Screen_Name(open.screen));
 }
 
 }  // namespace kervol

@@ -12,6 +12,7 @@
 //     title=a.kvl            as the first line: starts with that command line instead of on the Home screen
 #pragma once
 
+#include <array>
 #include <deque>
 #include <memory>
 #include <optional>
@@ -62,6 +63,7 @@ class Person : public RecordingPort {
     /// The next line, on that screen; false where there is none.
     bool Do_Next(ScreenId front);
     void Do(ScreenId front, const std::string& name, const std::string& value);
+    const std::vector<NamedControl>& Controls_On(ScreenId screen);
     const NamedControl* Find(ScreenId front, const std::string& name);
     void Use(Button& button, const std::string& value);
     void Use(MenuItem& item, const std::string& value);
@@ -77,6 +79,7 @@ class Person : public RecordingPort {
     void Leave_Field();
     void Raise_Event(const Event& event);
     void Check(std::string_view where);
+    void Check_Way_Out(const OpenScreen& open);
     /// One time in `times`.
     bool Happens(std::size_t times) { return Below(random_, times) == 0; }
 
