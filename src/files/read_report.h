@@ -8,7 +8,8 @@ namespace kervol {
 
 /// How far a file was read.
 enum class ReadEnd {
-    Nothing,  ///< the file could not be read, or ends before the first record: the model is as it was
+    Nothing,  ///< the file could not be read, or ends before the first record: what the user gave is as it
+              ///< was
     Refused,  ///< a file of another kind: the model is as it was
     Cut,      ///< a fault in the middle; fields not reached keep their values
     Whole,

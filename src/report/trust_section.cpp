@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "animation/link_shapes.h"
+#include "report/html_table.h"
 #include "report/page_parts.h"
 #include "selfcheck/deviation_texts.h"
 #include "selfcheck/self_check_summary.h"

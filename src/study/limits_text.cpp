@@ -96,13 +96,6 @@ void Warn_Of_Stage(Warnings& warnings, const LinkageModel& model, const StageLim
         warnings.push_back("The transmission angle of " + name + " falls to " + Transmission_Text(*least) +
                            "; below " + Plain_Number(kPoorTransmission) +
                            " deg the pin forces grow and play is felt.");
-    std::string centres;
-    for (const DeadCentre& dead : found.dead_centres)
-        if (!drive || Holds(*drive, dead.crank))
-            centres += (centres.empty() ? "" : ", ") + Crank_Degrees(dead.crank);
-    if (!centres.empty())
-        warnings.push_back(name + " has dead centres in the drive, at " + centres + " deg: no load on " +
-                           Loop_Names(model, stage).output + " can turn the crank there.");
     if (std::any_of(found.obstacles.begin(), found.obstacles.end(),
                     [](const Obstacle& each) { return each.why == Misfit::InLine; }))
         warnings.push_back(name +

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "files/drive_test.h"
+#include "support/finite.h"
 
 #include <gmock/gmock.h>
 

@@ -8,6 +8,7 @@
 #include "files/model_file.h"
 #include "files/sample_lines.h"
 #include "support/compare.h"
+#include "support/finite.h"
 #include "support/program_test.h"
 
 #include <gmock/gmock.h>

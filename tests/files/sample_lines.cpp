@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/sample_lines.h"
 
-#include <cmath>
 #include <cstdlib>
 #include <type_traits>
 
-#include "core/model_fields.h"
 #include "support/compare.h"
 
 namespace kervol {
@@ -63,17 +61,6 @@ T Poison_Of(std::string_view text) {
 
 template <class T>
 using Plain = std::remove_cvref_t<T>;
-
-template <class T>
-bool All_Finite(const T& value) {
-    if constexpr (std::is_same_v<T, float>)
-        return std::isfinite(value);
-    else if constexpr (requires { value.begin() != value.end(); }) {
-        for (const auto& element : value)
-            if (!All_Finite(element)) return false;
-    }
-    return true;
-}
 
 }  // namespace
 
@@ -161,21 +148,6 @@ bool Is_Poisoned(const LinkageModel& model, const SampleLine& line) {
 void Poison_All(Program& program, std::span<const SampleLine> lines) {
     for (const SampleLine& line : lines) Poison_Line(line, program.model);
     Poison_Tables(program.tables);
-}
-
-std::vector<std::string> Not_Finite(const Program& program) {
-    std::vector<std::string> names;
-    for (const ModelField& field : Model_Fields()) {
-        const bool finite =
-            std::visit([&](auto member) { return All_Finite(program.model.*member); }, field.member);
-        if (!finite) names.emplace_back(field.name);
-    }
-    const ResultTables& tables = program.tables;
-    if (!All_Finite(tables.DriveTheta)) names.emplace_back("DriveTheta");
-    if (!All_Finite(tables.Omega)) names.emplace_back("Omega");
-    if (!All_Finite(tables.Alpha)) names.emplace_back("Alpha");
-    if (!All_Finite(tables.Torque21Imported)) names.emplace_back("Torque21Imported");
-    return names;
 }
 
 }  // namespace kervol

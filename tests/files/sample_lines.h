@@ -67,7 +67,4 @@ bool Is_Poisoned(const LinkageModel& model, const SampleLine& line);
 /// Poisons the places of all lines but the identity, and all tables.
 void Poison_All(Program& program, std::span<const SampleLine> lines);
 
-/// Names of fields or tables that hold an infinity or a not-a-number.
-std::vector<std::string> Not_Finite(const Program& program);
-
 }  // namespace kervol
