@@ -22,7 +22,7 @@ h3{font-size:15px;margin:0 0 8px}
 .panel p{margin:0 0 8px}.panel table+p{margin-top:12px}
 .panel+.columns,.columns+.panel{margin-top:20px}
 .soft{color:var(--soft);margin:0}
-.columns{display:grid;grid-template-columns:repeat(auto-fit,minmax(min(100%,480px),1fr));gap:20px 28px;align-items:start}
+.columns{display:grid;grid-template-columns:repeat(auto-fill,minmax(min(100%,480px),1fr));gap:20px 28px;align-items:start}
 figure,.panel{margin:0;background:var(--panel);border:1px solid var(--line);border-radius:8px;padding:12px}
 figure svg{display:block;width:100%;height:auto;max-height:560px}
 figcaption{color:var(--soft);font-size:13px;padding-top:8px}

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 
 #include "core/arithmetic.h"
@@ -150,10 +149,7 @@ const DeviationEntry& Entry_Of(Deviation deviation) {
 }  // namespace
 
 std::string Four_Digits(double value) {
-    std::array<char, 32> text;
-    const auto end =
-        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, 4).ptr;
-    return {text.data(), end};
+    return Short_Number(value, 4);
 }
 
 std::string_view Deviation_Name(Deviation deviation) {
