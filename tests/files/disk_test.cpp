@@ -2,9 +2,11 @@
 // Files that are not there or are no plain files, and the fault numbers of what the system refuses.
 #include "files/disk.h"
 
+#include <atomic>
 #include <cerrno>
 #include <filesystem>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 #include "core/fault.h"
@@ -35,6 +37,26 @@ TEST(Disk, ReadsAFileWhole) {
     EXPECT_EQ(Read_Whole_File(folder.Put("empty.kvl", "")), "");
     const std::string large(100'000, 'x');
     EXPECT_EQ(Read_Whole_File(folder.Put("large.kvl", large)), large);
+}
+
+TEST(Disk, ReadsNoMoreThanThereEverWasOfAFileThatChangesMeanwhile) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Put("changing.kvl", "");
+    const std::string large(50'000, 'x');
+    std::atomic<bool> ended = false;
+    std::thread writer([&] {
+        while (!ended) {
+            folder.Put("changing.kvl", large);
+            std::filesystem::resize_file(path, 20'000);
+        }
+    });
+    for (int i = 0; i < 300; ++i) {
+        const std::string content = Read_Whole_File(path);
+        EXPECT_LE(content.size(), large.size());
+        EXPECT_EQ(content.find_first_not_of('x'), std::string::npos);
+    }
+    ended = true;
+    writer.join();
 }
 
 TEST(Disk, ReadsThroughALink) {

@@ -109,6 +109,19 @@ TEST_P(EveryWriter, ReportsUnderItsMenuEntryWhatCannotBeOpened) {
     EXPECT_TRUE(std::filesystem::is_directory(path));
 }
 
+TEST_P(EveryWriter, InAFolderThatIsGoneLosesNothingAndCanBeTriedAgain) {
+    std::filesystem::remove_all(folder.path());
+    model.DataSaved = false;
+    EXPECT_FALSE(Write());
+    Expect_Fault(76, GetParam().handler);
+    EXPECT_FALSE(model.DataSaved);
+    EXPECT_TRUE(model.DataCalculated);
+    std::filesystem::create_directory(folder.path());
+    EXPECT_TRUE(Write());
+    EXPECT_GT(Content_Of(path).size(), 300U);
+    Take_Boxes();
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Files, EveryWriter,
     ::testing::Values(Writer{"Model", Save_Model_As, "Writefile", "frm_Homescreen.SaveAs"},

@@ -2,8 +2,10 @@
 // Writing over a file without losing what it held.
 #include "files/output_file.h"
 
+#include <csignal>
 #include <filesystem>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "core/fault.h"
@@ -68,6 +70,25 @@ TEST(OutputFile, IsEmptiedAtOnceAndWrittenAtItsEndWithoutAClose) {
         file.Write("b");
     }
     EXPECT_EQ(Content_Of(path), "ab");
+    EXPECT_EQ(Content_Of(path + "~"), "old");
+}
+
+TEST(OutputFile, KeepsTheEarlierContentWhenTheProgramIsKilledMeanwhile) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Put("model.kvl", "old");
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        OutputFile file(path);
+        file.Write("first ");
+        file.Flush();
+        file.Write("second");
+        raise(SIGKILL);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(Content_Of(path), "first ");
     EXPECT_EQ(Content_Of(path + "~"), "old");
 }
 
