@@ -54,7 +54,7 @@ constexpr auto kRecords = std::make_tuple(
     &Screens::frm_PlotSelect3, &Screens::frm_PlotSelect4, &Screens::frm_Plot1, &Screens::frm_Plot2,
     &Screens::frm_Plot3, &Screens::frm_Plot4, &Screens::frm_Myplot2, &Screens::frm_MyPlot3,
     &Screens::frm_MyPlot4, &Screens::frm_PrintSelect, &Screens::frm_PrintData, &Screens::frm_Flywheel,
-    &Screens::frm_FFT, &Screens::frm_Quit);
+    &Screens::frm_FFT, &Screens::frm_SelfCheck, &Screens::frm_Quit);
 static_assert(std::tuple_size_v<decltype(kRecords)> == NumScreens);
 
 template <std::size_t... I>
