@@ -33,6 +33,7 @@ class Collector {
     void operator()(const char*, const Label&) {}
     void operator()(const char*, const Frame&) {}
     void operator()(const char*, const Grid&) {}
+    void operator()(const char*, const TextView&) {}
 
     std::vector<NamedControl> found;
 
