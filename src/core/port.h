@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/printer.h"
 
@@ -115,6 +116,10 @@ class Port {
     virtual void Copy_Screen(ScreenId screen) = 0;
     /// Puts a text on the clipboard.
     virtual void Copy_Text(const std::string& text) = 0;
+    /// Where the first page of the manual may stand, the best place first.
+    virtual std::vector<std::string> Manual_Places() = 0;
+    /// Hands a file to the program that the desktop has for it; false where there is none.
+    virtual bool Open_File(const std::string& path) = 0;
     /// Shows the printer dialog. A printer with an empty document; nothing after Cancel, or where no lines
     /// can be printed.
     virtual std::unique_ptr<Printer> Ask_Printer() { return nullptr; }

@@ -54,6 +54,11 @@ std::unique_ptr<Printer> RecordingPort::Ask_Printer() {
     return std::make_unique<TextPrinter>(documents.emplace_back());
 }
 
+bool RecordingPort::Open_File(const std::string& path) {
+    if (opens_files) opened_files.push_back(path);
+    return opens_files;
+}
+
 std::string RecordingPort::Long_Path(const std::string& path) {
     return Long_Path_Of(path);
 }

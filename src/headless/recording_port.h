@@ -34,6 +34,8 @@ class RecordingPort : public Port {
     void Print_Screen(ScreenId screen) override { printed.push_back(screen); }
     void Copy_Screen(ScreenId screen) override { copied.push_back(screen); }
     void Copy_Text(const std::string& text) override { clipboard = text; }
+    std::vector<std::string> Manual_Places() override { return manual_places; }
+    bool Open_File(const std::string& path) override;
     std::unique_ptr<Printer> Ask_Printer() override;
     std::string User_Name() override { return user_name; }
     std::string Long_Path(const std::string& path) override;
@@ -50,12 +52,15 @@ class RecordingPort : public Port {
     std::optional<DateAndTime> clock;  ///< stands still; without one it is the machine's
     bool has_printer = true;           ///< without one the printer dialog counts as cancelled
     std::string user_name;
+    std::vector<std::string> manual_places;
+    bool opens_files = true;  ///< whether the desktop has a program for a file
 
     std::vector<Shown> messages;
     std::vector<ScreenId> screens;  ///< in the order in which they were shown
     std::vector<ScreenId> hidden;
     std::vector<ScreenId> printed;
     std::vector<ScreenId> copied;
+    std::vector<std::string> opened_files;
     std::string clipboard;                 ///< the text that was put there last
     std::vector<bool> runs;                ///< beginnings and ends of runs
     std::vector<double> holds;             ///< milliseconds

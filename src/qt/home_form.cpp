@@ -70,7 +70,7 @@ QMenuBar* New_Menus(QWidget* parent) {
     Add_Entries(Add_Menu(bar, "mnu_Examples"), {"mnu_Test", "mnu_Hoeken", "mnu_Roberts", "mnu_Double"});
     Add_Entries(Add_Menu(bar, "mnu_FFT"), {"mnu_CalcFFT"});
     Add_Entries(Add_Menu(bar, "mnu_Tools"), {"mnu_SelfCheck"});
-    Add_Entries(Add_Menu(bar, "mnu_Version"), {"mnu_About", "mnu_Disclaimer"});
+    Add_Entries(Add_Menu(bar, "mnu_Version"), {"mnu_Manual", "mnu_About", "mnu_Disclaimer"});
     return bar;
 }
 

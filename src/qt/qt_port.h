@@ -43,6 +43,8 @@ class QtPort : public Port {
     void Print_Screen(ScreenId screen) override;
     void Copy_Screen(ScreenId screen) override;
     void Copy_Text(const std::string& text) override;
+    std::vector<std::string> Manual_Places() override;
+    bool Open_File(const std::string& path) override;
     std::unique_ptr<Printer> Ask_Printer() override;
     std::string User_Name() override;
     std::string Long_Path(const std::string& path) override;

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the port asks of the system.
+#include <QCoreApplication>
 #include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
 #include <QLocale>
+#include <QUrl>
 
 #include "core/path_text.h"
 #include "qt/qt_port.h"
@@ -29,6 +33,19 @@ std::string QtPort::User_Name() {
 
 std::string QtPort::Long_Path(const std::string& path) {
     return Long_Path_Of(path);
+}
+
+/// That of an installed program, then that of the build folder which the program stands in.
+std::vector<std::string> QtPort::Manual_Places() {
+    const QDir program(QCoreApplication::applicationDirPath());
+    std::vector<std::string> places;
+    for (const char* place : {"../share/doc/kervol/manual/index.html", "../../manual/index.html"})
+        places.push_back(QDir::cleanPath(program.filePath(place)).toStdString());
+    return places;
+}
+
+bool QtPort::Open_File(const std::string& path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(Qt_Text(path)));
 }
 
 DateAndTime QtPort::Short_Date_And_Time() {

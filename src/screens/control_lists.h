@@ -103,6 +103,7 @@ void Visit_Controls(HomeScreen& screen, Visitor&& visit) {
     KERVOL_CONTROL(mnu_Tools);
     KERVOL_CONTROL(mnu_SelfCheck);
     KERVOL_CONTROL(mnu_Version);
+    KERVOL_CONTROL(mnu_Manual);
     KERVOL_CONTROL(mnu_About);
     KERVOL_CONTROL(mnu_Disclaimer);
 }

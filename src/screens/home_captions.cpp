@@ -62,6 +62,7 @@ HomeScreen::HomeScreen() {
     mnu_Tools.caption = "&Tools";
     mnu_SelfCheck.caption = "Self-check...";
     mnu_Version.caption = "&Help";
+    mnu_Manual.caption = "&Manual";
     mnu_About.caption = "&About Kervol";
     mnu_Disclaimer.caption = "&Disclaimer";
 }

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/home_screen.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <vector>
 
 #include "core/arithmetic.h"
 #include "core/mathematics.h"
@@ -186,6 +190,29 @@ void Open_Selection(Screens& screens, ScreenId screen) {
     screens.program.port.Show_Screen(screen, Modality::Modal);
 }
 
+std::string No_Manual_Text(const std::vector<std::string>& places) {
+    std::string text = "The manual was not found. It was looked for at";
+    for (const std::string& place : places) text += "\n" + Decoded(place);
+    return text + "\nscripts/manual builds it from the sources of this program.";
+}
+
+void mnu_Manual_Click(Screens& screens) {
+    Port& port = screens.program.port;
+    const std::vector<std::string> places = port.Manual_Places();
+    const auto manual = std::find_if(places.begin(), places.end(), [](const std::string& place) {
+        std::error_code error;
+        return std::filesystem::is_regular_file(place, error);
+    });
+    if (manual == places.end()) {
+        port.Show_Message({No_Manual_Text(places), Icon::Exclamation});
+        return;
+    }
+    if (port.Open_File(*manual)) return;
+    port.Show_Message(
+        {"There is no program that shows the manual. Open this file in a browser:\n" + Decoded(*manual),
+         Icon::Exclamation});
+}
+
 void mnu_Disclaimer_Click(Screens& screens) {
     screens.program.model.StartingUp = false;
     screens.program.port.Show_Screen(ScreenId::frm_Disclaimer, Modality::Modal);
@@ -274,6 +301,7 @@ void Wire_Home_Screen(Screens& screens) {
     on(home.mnu_Roberts.click, "frm_Homescreen.Example", example("roberts"));
     on(home.mnu_Double.click, "frm_Homescreen.Example", example("double-dwell"));
     on(home.mnu_SelfCheck.click, "frm_Homescreen.SelfCheck", opens(ScreenId::frm_SelfCheck));
+    on(home.mnu_Manual.click, "frm_Homescreen.Manual", mnu_Manual_Click);
     on(home.mnu_About.click, "frm_Homescreen.About", opens(ScreenId::frm_About));
     on(home.mnu_Disclaimer.click, "frm_Homescreen.Disclaimer", mnu_Disclaimer_Click);
 }

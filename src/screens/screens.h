@@ -49,7 +49,7 @@ struct HomeScreen {
     MenuItem mnu_Examples, mnu_Test, mnu_Hoeken, mnu_Roberts, mnu_Double;
     MenuItem mnu_FFT, mnu_CalcFFT;
     MenuItem mnu_Tools, mnu_SelfCheck;
-    MenuItem mnu_Version, mnu_About, mnu_Disclaimer;
+    MenuItem mnu_Version, mnu_Manual, mnu_About, mnu_Disclaimer;
 };
 
 struct AboutScreen {

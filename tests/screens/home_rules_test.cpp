@@ -144,6 +144,7 @@ TEST_F(HomeRules, HaveTheirCaptions) {
         {&home.mnu_FFT, "&FFT"},
         {&home.mnu_CalcFFT, "&Calculate FFT"},
         {&home.mnu_Version, "&Help"},
+        {&home.mnu_Manual, "&Manual"},
         {&home.mnu_About, "&About Kervol"},
         {&home.mnu_Disclaimer, "&Disclaimer"},
     };
