@@ -6,15 +6,17 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 #include <spawn.h>
+#include <sstream>
 #include <string_view>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 #include "core/fault.h"
+#include "files/desktop_files.h"
 #include "files/disk.h"
 #include "files/output_file.h"
 
@@ -22,29 +24,6 @@ namespace kervol {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view kIcon = R"svg(<?xml version="1.0" encoding="UTF-8"?>
-<svg xmlns="http://www.w3.org/2000/svg" width="64" height="64" viewBox="0 0 64 64">
-  <rect x="1" y="1" width="62" height="62" rx="12" fill="#18345c"/>
-  <g fill="none" stroke="#96c8ff" stroke-width="5" stroke-linecap="round" stroke-linejoin="round">
-    <path d="M14 48 20 26M50 48 46 16"/>
-    <path d="M20 26 46 16 34 9Z" fill="#96c8ff" fill-opacity="0.43"/>
-  </g>
-  <path d="M8 55H56" stroke="#fff" stroke-width="4" stroke-linecap="round"/>
-  <g fill="#18345c" stroke="#fff" stroke-width="2.5">
-    <circle cx="14" cy="48" r="4.5"/>
-    <circle cx="20" cy="26" r="4.5"/>
-    <circle cx="46" cy="16" r="4.5"/>
-    <circle cx="50" cy="48" r="4.5"/>
-  </g>
-</svg>
-)svg";
-
-std::string Lower(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return text;
-}
 
 /// The text with `mark` before each of those characters.
 std::string Marked(std::string_view text, std::string_view characters, char mark) {
@@ -75,26 +54,14 @@ std::string Command_Word(std::string_view program) {
     return Entry_Text("\"" + Marked(Marked(program, "\"`$\\", '\\'), "%", '%') + "\"");
 }
 
-std::string Mime_Type(const std::string& name) {
-    return "application/x-" + Lower(name);
-}
-
-std::string Desktop_Entry(const std::string& program, const std::string& name) {
-    return "[Desktop Entry]\nType=Application\nVersion=1.4\nName=" + name +
-           "\nGenericName=Linkage Analysis\nComment=Kinematics and dynamics of planar six-bar "
-           "linkages\nExec=" +
-           Command_Word(program) + " %f\nTryExec=" + Entry_Text(program) + "\nIcon=" + Lower(name) +
-           "\nTerminal=false\nCategories=Science;Engineering;\nMimeType=" + Mime_Type(name) +
-           ";\nStartupNotify=true\nStartupWMClass=" + Lower(name) + "\n";
-}
-
-std::string Mime_Package(const std::string& name, const std::string& extension) {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-           "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n"
-           "  <mime-type type=\"" +
-           Mime_Type(name) + "\">\n    <comment>" + name + " File</comment>\n" +
-           "    <sub-class-of type=\"text/plain\"/>\n    <icon name=\"" + Lower(name) +
-           "\"/>\n    <glob pattern=\"*." + extension + "\"/>\n  </mime-type>\n</mime-info>\n";
+/// The installed entry starts the program that the shell finds; a user's own starts this one.
+std::string Desktop_Entry(const std::string& program) {
+    std::string entry(kDesktopEntry);
+    for (const auto& [line, own] :
+         {std::pair("\nExec=kervol %f\n", "\nExec=" + Command_Word(program) + " %f\n"),
+          std::pair("\nTryExec=kervol\n", "\nTryExec=" + Entry_Text(program) + "\n")})
+        entry.replace(entry.find(line), std::string_view(line).size(), own);
+    return entry;
 }
 
 bool Holds(const fs::path& path, std::string_view content) {
@@ -143,27 +110,61 @@ std::string Data_Folder() {
     return fs::path(home).is_absolute() ? home + "/.local/share" : "";
 }
 
+std::vector<std::string> System_Folders() {
+    const std::string listed = Variable("XDG_DATA_DIRS");
+    std::istringstream list(listed.empty() ? "/usr/local/share:/usr/share" : listed);
+    std::vector<std::string> folders;
+    for (std::string folder; std::getline(list, folder, ':');)
+        if (fs::path(folder).is_absolute()) folders.push_back(folder);
+    return folders;
+}
+
+/// A file of a registration, below a data folder.
+struct Registered {
+    const char* file;
+    std::string_view installed;  ///< what an installation puts there
+    std::string own;             ///< what a user's own file holds
+    const char* tool;            ///< that renews the cache after a change; none where there is no cache
+    const char* folder;          ///< of the cache
+    const char* cache;
+};
+
+/// What an installation has put into a folder of the system the user needs no copy of. A file of the user's
+/// own hides the system's, so it is kept up to date all the same.
+bool Is_Installed(const UserDesktop& desktop, const Registered& entry) {
+    std::error_code error;
+    if (fs::exists(fs::path(desktop.data_folder) / entry.file, error)) return false;
+    return std::any_of(
+        desktop.system_folders.begin(), desktop.system_folders.end(),
+        [&](const std::string& folder) { return Holds(fs::path(folder) / entry.file, entry.installed); });
+}
+
 }  // namespace
 
 UserDesktop Users_Desktop() {
     std::error_code error;
-    return {fs::read_symlink("/proc/self/exe", error).string(), Data_Folder(), Start_Detached};
+    return {fs::read_symlink("/proc/self/exe", error).string(), Data_Folder(), Start_Detached,
+            System_Folders()};
 }
 
-void Associate(const UserDesktop& desktop, const std::string& name, const std::string& extension) {
+void Associate(const UserDesktop& desktop) {
     if (desktop.program.empty() || desktop.data_folder.empty()) return;
-    const std::string id = Lower(name);
+    const std::array<Registered, 3> entries = {{
+        {"icons/hicolor/scalable/apps/kervol.svg", kProgramIcon, std::string(kProgramIcon), nullptr, "", ""},
+        {"mime/packages/kervol.xml", kMimePackage, std::string(kMimePackage), "update-mime-database", "mime",
+         "mime.cache"},
+        {"applications/kervol.desktop", kDesktopEntry, Desktop_Entry(desktop.program),
+         "update-desktop-database", "applications", "mimeinfo.cache"},
+    }};
     const fs::path data = desktop.data_folder;
-    const fs::path applications = data / "applications";
-    const fs::path mime = data / "mime";
     std::error_code error;
-    Put_File(data / "icons/hicolor/scalable/apps" / (id + ".svg"), kIcon);
-    const bool new_type = Put_File(mime / "packages" / (id + ".xml"), Mime_Package(name, extension));
-    if (new_type || !fs::exists(mime / "mime.cache", error))
-        desktop.start_tool("update-mime-database", mime.string());
-    const bool new_entry = Put_File(applications / (id + ".desktop"), Desktop_Entry(desktop.program, name));
-    if (new_entry || !fs::exists(applications / "mimeinfo.cache", error))
-        desktop.start_tool("update-desktop-database", applications.string());
+    for (const Registered& entry : entries) {
+        if (Is_Installed(desktop, entry)) continue;
+        const bool is_new = Put_File(data / entry.file, entry.own);
+        const fs::path folder = data / entry.folder;
+        if (entry.tool != nullptr && (is_new || !fs::exists(folder / entry.cache, error)))
+            desktop.start_tool(entry.tool, folder.string());
+    }
 }
 
 }  // namespace kervol

@@ -48,13 +48,14 @@ void Put_Key(const std::string& key, const std::string& text) {
 UserDesktop Users_Desktop() {
     char path[kLongestPath] = {};
     const DWORD length = GetModuleFileNameA(nullptr, path, kLongestPath);
-    return {std::string(path, length), {}, {}};
+    return {std::string(path, length), {}, {}, {}};
 }
 
-void Associate(const UserDesktop& desktop, const std::string& name, const std::string& extension) {
+void Associate(const UserDesktop& desktop) {
+    const std::string name = "Kervol";
     const std::string document = name + ".Document";
     const std::string folder = desktop.program.substr(0, desktop.program.find_last_of('\\'));
-    Put_Key("." + extension, document);
+    Put_Key(".kvl", document);
     Put_Key(document, name + " File");
     Put_Key(document + "\\shell\\open\\command", folder + "\\" + name + ".exe %1");
 }

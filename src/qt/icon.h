@@ -6,7 +6,7 @@
 
 namespace kervol {
 
-/// A four-bar loop on its two pivots, drawn at the usual sizes.
+/// That of the desktop entry, a four-bar loop on its two pivots, drawn at the usual sizes.
 QIcon Program_Icon();
 
 }  // namespace kervol

@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
     auto run = std::make_unique<Run>();
     run->port.Attach(run->screens);
     QTimer::singleShot(0, [&run, line = Command_Line(argc, argv)] {
-        kervol::Associate(kervol::Users_Desktop(), "Kervol", "kvl");
+        kervol::Associate(kervol::Users_Desktop());
         kervol::Launch(run->screens, line);
     });
     return QApplication::exec();

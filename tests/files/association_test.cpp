@@ -10,6 +10,7 @@
 #include <thread>
 #include <vector>
 
+#include "files/desktop_files.h"
 #include "files/without_rights.h"
 #include "support/temporary_folder.h"
 
@@ -58,7 +59,7 @@ class Association : public ::testing::Test {
 };
 
 TEST_F(Association, WritesADesktopEntryATypeAndAnIcon) {
-    Associate(Desktop(), "Kervol", "kvl");
+    Associate(Desktop());
     EXPECT_THAT(Names(), ElementsAre("applications/kervol.desktop", "applications/mimeinfo.cache",
                                      "icons/hicolor/scalable/apps/kervol.svg", "mime/mime.cache",
                                      "mime/packages/kervol.xml"));
@@ -73,45 +74,45 @@ TEST_F(Association, WritesADesktopEntryATypeAndAnIcon) {
 }
 
 TEST_F(Association, WritesNothingAtASecondStart) {
-    Associate(Desktop(), "Kervol", "kvl");
+    Associate(Desktop());
     calls.clear();
     const auto before = All_Files();
-    Associate(Desktop(), "Kervol", "kvl");
+    Associate(Desktop());
     EXPECT_EQ(All_Files(), before);
     EXPECT_THAT(calls, IsEmpty());
 }
 
 TEST_F(Association, FollowsTheProgramToAnotherPlace) {
-    Associate(Desktop(), "Kervol", "kvl");
+    Associate(Desktop());
     calls.clear();
     const std::string entry = folder / "applications/kervol.desktop";
     const std::string before = Content_Of(entry);
-    Associate(Desktop("/usr/bin/kervol"), "Kervol", "kvl");
+    Associate(Desktop("/usr/bin/kervol"));
     EXPECT_THAT(Content_Of(entry), HasSubstr("\nExec=\"/usr/bin/kervol\" %f\n"));
     EXPECT_EQ(Content_Of(entry + "~"), before) << "what stood there is kept";
     EXPECT_THAT(calls, ElementsAre("update-desktop-database applications"));
 }
 
 TEST_F(Association, RenewsACacheThatIsMissing) {
-    Associate(Desktop(), "Kervol", "kvl");
+    Associate(Desktop());
     for (const char* cache : {"mime/mime.cache", "applications/mimeinfo.cache"}) {
         calls.clear();
         fs::remove(folder / cache);
-        Associate(Desktop(), "Kervol", "kvl");
+        Associate(Desktop());
         EXPECT_EQ(calls.size(), 1U) << cache;
     }
 }
 
 TEST_F(Association, RepairsAFileThatWasChanged) {
-    Associate(Desktop(), "Kervol", "kvl");
+    Associate(Desktop());
     const auto before = Content_Of(folder / "mime/packages/kervol.xml");
     folder.Put("mime/packages/kervol.xml", "something else");
-    Associate(Desktop(), "Kervol", "kvl");
+    Associate(Desktop());
     EXPECT_EQ(Content_Of(folder / "mime/packages/kervol.xml"), before);
 }
 
 TEST_F(Association, QuotesAProgramInAFolderOfAnyName) {
-    Associate(Desktop("/opt/My \"Ker\\vol\" 100%/$x`/kervol"), "Kervol", "kvl");
+    Associate(Desktop("/opt/My \"Ker\\vol\" 100%/$x`/kervol"));
     // Each \ of the quoting and of the path itself is doubled once more in a value of the entry.
     EXPECT_THAT(
         Content_Of(folder / "applications/kervol.desktop"),
@@ -120,7 +121,7 @@ TEST_F(Association, QuotesAProgramInAFolderOfAnyName) {
 }
 
 TEST_F(Association, KeepsAPathWithALineEndOnOneLine) {
-    Associate(Desktop("/opt/a\nHidden=true\r/kervol"), "Kervol", "kvl");
+    Associate(Desktop("/opt/a\nHidden=true\r/kervol"));
     EXPECT_THAT(Content_Of(folder / "applications/kervol.desktop"),
                 HasSubstr("\nExec=\"/opt/a\\nHidden=true\\r/kervol\" %f\n"));
 }
@@ -128,8 +129,7 @@ TEST_F(Association, KeepsAPathWithALineEndOnOneLine) {
 TEST_F(Association, LeavesWhatItCannotWrite) {
     folder.Put("applications", "no folder");
     fs::create_directories(folder / "mime/packages/kervol.xml");
-    Associate({"/opt/kervol", folder.path().string(), [](const std::string&, const std::string&) {}},
-              "Kervol", "kvl");
+    Associate({"/opt/kervol", folder.path().string(), [](const std::string&, const std::string&) {}});
     EXPECT_EQ(Content_Of(folder / "applications"), "no folder");
     EXPECT_TRUE(fs::is_directory(folder / "mime/packages/kervol.xml"));
     EXPECT_TRUE(fs::exists(folder / "icons/hicolor/scalable/apps/kervol.svg")) << "the others are written";
@@ -139,8 +139,7 @@ TEST_F(Association, LeavesAHomeWithoutTheRightToWrite) {
     fs::permissions(folder.path(), fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
                                        fs::perms::others_exec);
     const int result = Without_Rights([&] {
-        Associate({"/opt/kervol", folder.path().string(), [](const std::string&, const std::string&) {}},
-                  "Kervol", "kvl");
+        Associate({"/opt/kervol", folder.path().string(), [](const std::string&, const std::string&) {}});
         return 0;
     });
     if (result == kNotPossible) GTEST_SKIP() << "rights of the superuser cannot be given up here";
@@ -148,10 +147,57 @@ TEST_F(Association, LeavesAHomeWithoutTheRightToWrite) {
     EXPECT_THAT(Names(), IsEmpty());
 }
 
+/// The files of an installation in a folder of the system, by their path below it.
+const std::map<std::string, std::string> kInstalled = {
+    {"applications/kervol.desktop", std::string(kDesktopEntry)},
+    {"icons/hicolor/scalable/apps/kervol.svg", std::string(kProgramIcon)},
+    {"mime/packages/kervol.xml", std::string(kMimePackage)},
+};
+
+class AssociationBesideAnInstallation : public Association {
+  protected:
+    void SetUp() override {
+        for (const auto& [file, content] : kInstalled) {
+            fs::create_directories((system.path() / file).parent_path());
+            system.Put(file, content);
+        }
+    }
+    UserDesktop Desktop(const std::string& program = "/usr/bin/kervol") {
+        UserDesktop desktop = Association::Desktop(program);
+        desktop.system_folders = {"/no/such/folder", system.path().string()};
+        return desktop;
+    }
+
+    const TemporaryFolder system;
+};
+
+TEST_F(AssociationBesideAnInstallation, WritesNothingWhereTheUserHasNothing) {
+    Associate(Desktop());
+    Associate(Desktop("/home/somebody/build/kervol"));
+    EXPECT_THAT(Names(), IsEmpty());
+    EXPECT_THAT(calls, IsEmpty());
+}
+
+TEST_F(AssociationBesideAnInstallation, KeepsAUsersOwnEntryRightSinceItHidesTheSystems) {
+    Associate(Association::Desktop("/home/somebody/build/kervol"));
+    calls.clear();
+    Associate(Desktop());
+    EXPECT_THAT(Content_Of(folder / "applications/kervol.desktop"),
+                HasSubstr("\nExec=\"/usr/bin/kervol\" %f\n"));
+    EXPECT_THAT(calls, ElementsAre("update-desktop-database applications"));
+}
+
+TEST_F(AssociationBesideAnInstallation, WritesWhatAnotherReleaseHasInstalledOtherwise) {
+    system.Put("mime/packages/kervol.xml", "of another release");
+    Associate(Desktop());
+    EXPECT_THAT(Names(), ElementsAre("mime/mime.cache", "mime/packages/kervol.xml"));
+    EXPECT_THAT(calls, ElementsAre("update-mime-database mime"));
+}
+
 TEST_F(Association, NeedsAProgramAndAHome) {
     const auto none = [](const std::string&, const std::string&) { FAIL() << "no tool has work here"; };
-    Associate({"", folder.path().string(), none}, "Kervol", "kvl");
-    Associate({"/opt/kervol", "", none}, "Kervol", "kvl");
+    Associate({"", folder.path().string(), none});
+    Associate({"/opt/kervol", "", none});
     EXPECT_THAT(Names(), IsEmpty());
 }
 
@@ -182,6 +228,17 @@ TEST(UsersDesktop, StandsInTheDataFolderOfTheUser) {
         EXPECT_EQ(Users_Desktop().data_folder, "/home/somebody/.local/share");
         const Environment no_home("HOME", none);
         EXPECT_EQ(Users_Desktop().data_folder, "");
+    }
+}
+
+TEST(UsersDesktop, KnowsTheDataFoldersOfTheSystem) {
+    {
+        const Environment folders("XDG_DATA_DIRS", "/opt/share:relative/share::/usr/share/");
+        EXPECT_THAT(Users_Desktop().system_folders, ElementsAre("/opt/share", "/usr/share/"));
+    }
+    for (const char* none : {static_cast<const char*>(nullptr), ""}) {
+        const Environment folders("XDG_DATA_DIRS", none);
+        EXPECT_THAT(Users_Desktop().system_folders, ElementsAre("/usr/local/share", "/usr/share"));
     }
 }
 
@@ -224,10 +281,9 @@ class RealDesktop : public ::testing::Test {
             GTEST_SKIP() << "needs gio and update-mime-database";
         const std::string program = folder.Put("my program", "#!/bin/sh\n");
         fs::permissions(program, fs::perms::owner_all);
-        Associate(
-            {program, folder / "share",
-             [](const std::string& tool, const std::string& place) { Output_Of(tool + " '" + place + "'"); }},
-            "Kervol", "kvl");
+        Associate({program, folder / "share", [](const std::string& tool, const std::string& place) {
+                       Output_Of(tool + " '" + place + "'");
+                   }});
     }
 
     const TemporaryFolder folder;
@@ -245,8 +301,7 @@ TEST_F(RealDesktop, HasNoWorkAtASecondStart) {
     if (!fs::exists(folder / "share/applications/mimeinfo.cache"))
         GTEST_SKIP() << "needs update-desktop-database";
     Associate({folder / "my program", folder / "share",
-               [](const std::string& tool, const std::string&) { ADD_FAILURE() << tool; }},
-              "Kervol", "kvl");
+               [](const std::string& tool, const std::string&) { ADD_FAILURE() << tool; }});
 }
 
 TEST_F(RealDesktop, OpensAModelFileWithTheProgram) {

@@ -8,6 +8,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <map>
+#include <string_view>
+
+#include "files/desktop_files.h"
 
 #include <gtest/gtest.h>
 
@@ -21,18 +24,19 @@ class Start : public ::testing::Test {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("HOME", home.path());
         environment.insert("XDG_DATA_HOME", home.filePath("share"));
+        environment.insert("XDG_DATA_DIRS", home.filePath("system"));
         environment.insert("PATH", home.filePath("bin"));
         program.setProcessEnvironment(environment);
         program.start(KERVOL_START, QStringList());
         return program.waitForFinished() && program.exitStatus() == QProcess::NormalExit &&
                program.exitCode() == 0;
     }
-    void Put(const QString& name, const QByteArray& content) {
+    void Put(const QString& name, std::string_view content) {
         const QString path = home.filePath(name);
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
+        file.write(content.data(), static_cast<qint64>(content.size()));
         file.setPermissions(file.permissions() | QFile::ExeOwner);
     }
     QByteArray Content(const QString& name) const {
@@ -41,8 +45,9 @@ class Start : public ::testing::Test {
     }
     /// A tool of the desktop that makes the cache it is there for and notes that it ran.
     void Put_Tool(const QString& name, const QByteArray& cache) {
+        const QByteArray runs = home.filePath("runs").toUtf8();
         Put("bin/" + name,
-            "#!/bin/sh\n: > \"$1/" + cache + "\"\necho ran >> '" + home.filePath("runs").toUtf8() + "'\n");
+            ("#!/bin/sh\n: > \"$1/" + cache + "\"\necho ran >> '" + runs + "'\n").toStdString());
     }
     /// All that the start has put below the data folder, with the time of its last change.
     std::map<QString, QDateTime> Registered() const {
@@ -76,6 +81,14 @@ TEST_F(Start, RegistersTheProgramOnceForItsModelFiles) {
     ASSERT_TRUE(Reaches_Its_First_Screen());
     EXPECT_EQ(Registered(), registered) << "a second start writes nothing";
     EXPECT_EQ(Content("runs"), "ran\nran\n");
+}
+
+TEST_F(Start, LeavesTheRegistrationToAnInstallation) {
+    Put("system/applications/kervol.desktop", kervol::kDesktopEntry);
+    Put("system/mime/packages/kervol.xml", kervol::kMimePackage);
+    Put("system/icons/hicolor/scalable/apps/kervol.svg", kervol::kProgramIcon);
+    ASSERT_TRUE(Reaches_Its_First_Screen());
+    EXPECT_TRUE(Registered().empty());
 }
 
 TEST_F(Start, DoesNotNeedTheToolsOfTheDesktop) {
