@@ -367,8 +367,6 @@ void Person::Use(const OptionOfGroup& option, const std::string&) {
 void Person::Check(std::string_view where) {
     const LinkageModel& model = program_->model;
     Demand_Finite(model, where);
-    Demand(!model.DataCalculated || (model.NumSteps >= 0 && model.NumSteps <= MaxSteps),
-           "a calculated model has " + std::to_string(model.NumSteps) + " steps", where);
     Demand(!model.Loading, "the model counts as loading", where);
     Demand(!screens_->frm_Inputnew.Filling && !screens_->frm_Animate.Filling,
            "a screen counts as being filled", where);
