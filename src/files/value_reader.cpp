@@ -107,9 +107,12 @@ std::string_view ValueReader::Take_Until(std::uint8_t ends) {
 
 std::string_view ValueReader::Take_Number() {
     Begin_Value();
-    const std::string_view piece = Take_Until(kSeparator | kBlank);
-    if (piece.empty() || Number_Length(piece) != piece.size()) Raise(fault::TypeMismatch);
-    return piece;
+    const std::string_view rest = std::string_view(content_).substr(at_);
+    const std::size_t length = Number_Length(rest);
+    const bool ends = length == rest.size() || Is(rest[length], kSeparator | kBlank);
+    if (length == 0 || !ends) Raise(fault::TypeMismatch);
+    at_ += length;
+    return rest.substr(0, length);
 }
 
 /// Passes the blanks behind a value and one separator.

@@ -70,7 +70,7 @@ void Follow_Over_Turns(std::vector<float>& degrees) {
     double turns = 0;
     for (std::size_t i = 1; i < degrees.size(); ++i) {
         const double jump = degrees[i] + turns - degrees[i - 1];
-        turns -= kTurn * std::round(jump / kTurn);
+        if (std::abs(jump) >= kTurn / 2) turns -= kTurn * std::round(jump / kTurn);
         degrees[i] = Single(degrees[i] + turns);
     }
 }
