@@ -151,7 +151,7 @@ TEST(DeriveGeometry, OfATurnedGroundWorksInTheLocalFrame) {
     model.O6X = -30.0F;
     model.O6Y = 20.0F;
     Cart_to_Polar(model.O4X, model.O4Y, model.Link1, model.GroundAngleDeg);
-    Rotate(model.O4X, model.O4Y, model.GroundAngleDeg, -1, model.O4LocalX, model.O4LocalY);
+    Derive_Local_O4(model);
     Rotate(model.O6X, model.O6Y, model.GroundAngleDeg, -1, model.O6LocalX, model.O6LocalY);
     Derive_Geometry(model);
     EXPECT_FLOAT_EQ(model.O4LocalX, model.Link1);
