@@ -150,9 +150,9 @@ TEST(DeriveGeometry, OfATurnedGroundWorksInTheLocalFrame) {
     model.O4Y = 40.0F;
     model.O6X = -30.0F;
     model.O6Y = 20.0F;
-    Cart_to_Polar(model.O4X, model.O4Y, model.Link1, model.GroundAngleDeg);
+    Derive_Ground_Link(model);
     Derive_Local_O4(model);
-    Rotate(model.O6X, model.O6Y, model.GroundAngleDeg, -1, model.O6LocalX, model.O6LocalY);
+    Derive_Local_O6(model);
     Derive_Geometry(model);
     EXPECT_FLOAT_EQ(model.O4LocalX, model.Link1);
     // 1e-4: the ground angle is a single in degrees, an error of 2e-6 degrees at a distance of 65.
