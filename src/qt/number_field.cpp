@@ -37,14 +37,12 @@ void Watch_Number(QLineEdit* field) {
         if (!note.isEmpty())
             palette.setColor(QPalette::Text, Readable_Text(Qt::red, field->palette().color(QPalette::Base)));
         field->setPalette(palette);
+        // An empty text hides the tip that stands.
+        QToolTip::showText(field->mapToGlobal(QPoint(0, field->height())), note, field);
     };
     // What the program puts there is never marked.
-    QObject::connect(field, &QLineEdit::textChanged, field, [mark] { mark({}); });
-    QObject::connect(field, &QLineEdit::textEdited, field, [mark, field](const QString& text) {
-        const QString note = Unread_Note(text);
-        if (note.isEmpty()) return QToolTip::hideText();
-        mark(note);
-        QToolTip::showText(field->mapToGlobal(QPoint(0, field->height())), note, field);
+    QObject::connect(field, &QLineEdit::textChanged, field, [mark, field](const QString& text) {
+        mark(field->isModified() ? Unread_Note(text) : QString());
     });
 }
 

@@ -207,7 +207,8 @@ QString Text_Of(const QWidget& form, const QString& name) {
 }
 
 /// For those who cannot see it: what the picture shows, and between which values.
-void Describe(QWidget& picture, const QString& description) {
+void Describe(QWidget& picture, const QString& text) {
+    const QString description = text.simplified();
     if (picture.accessibleDescription() != description) picture.setAccessibleDescription(description);
 }
 

@@ -7,9 +7,8 @@
 
 namespace kervol {
 
-/// Alt and the key begin at the first menu; from there the key, with Alt or without, goes on in turn: to the
-/// last menu, and to the button if it can be used. The toolkit alone would begin where it stopped the last
-/// time.
+/// Alt and the key open the first menu; from there the key alone goes on in turn: to the last menu, and to
+/// the button if it can be used. The toolkit would begin where it stopped the last time.
 class SharedKey : public QObject {
   public:
     /// Lives as long as the bar.

@@ -12,7 +12,7 @@
 namespace kervol {
 namespace {
 
-const std::string kLongName =
+constexpr const char* kLongName =
     "Forschungs- und Entwicklungsabteilung f\u00fcr \"Koppelgetriebe\" und Pressen, Werk "
     "M\u00fcnchen-S\u00fcd, "
     "Frau Dr.-Ing. \u00c4hnlich-\u00dcberlang, Projekt Blechf\u00f6rderung, Teil 2 von 17, dritter Entwurf "
@@ -28,7 +28,7 @@ TEST(ElidedLabelTest, AShortTextIsShownWhole) {
 
 TEST(ElidedLabelTest, OnlyTheLineThatIsTooLongIsElided) {
     ElidedLabel label(24);
-    label.setText(QString::fromStdString(kLongName) + "\n Design No. 1");
+    label.setText(QString::fromUtf8(kLongName) + "\n Design No. 1");
     label.resize(label.sizeHint());
     EXPECT_LE(label.width(), 24 * label.fontMetrics().averageCharWidth());
     const QStringList lines = label.Shown().split('\n');
@@ -52,7 +52,7 @@ TEST(ElidedLabelTest, TheTipHoldsWhatIsElided) {
 using LongNames = WindowTest;
 
 TEST_F(LongNames, WidenNoWindow) {
-    Select("watt", {"Omega3", "Omega4", "Omega5", "Omega6"});
+    Select("watt", {"Accel CP-1", "Accel CP-2", "Veloc CP-1", "Veloc CP-2"});
     std::vector<ScreenId> all(std::begin(kScreensWithWindow), std::end(kScreensWithWindow));
     all.insert(all.end(), std::begin(kPlotScreens), std::end(kPlotScreens));
     for (const ScreenId screen : all) {
