@@ -128,8 +128,7 @@ QVBoxLayout* New_Settings() {
                     {New_Check("chk_Showlinks", "Draws the links themselves."),
                      New_Check("chk_Coupler", "Draws the paths of both coupler points."),
                      New_Check("chk_Points", "Marks both coupler points at each position.")})});
-    QLabel* header = New_Label("lbl_Header");
-    header->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    QLabel* header = New_Header();
     column->addWidget(header);
     return column;
 }

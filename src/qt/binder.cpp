@@ -22,6 +22,7 @@
 #include "qt/chart_widget.h"
 #include "qt/choice_box.h"
 #include "qt/data_table.h"
+#include "qt/look.h"
 #include "qt/pick_list.h"
 #include "qt/plot_kind_picture.h"
 
@@ -47,8 +48,9 @@ bool Is_Passing(const QEvent& event) {
 }
 
 void Colour_Text(QWidget& widget, Colour colour) {
-    const QColor shown(colour.red, colour.green, colour.blue);
     QPalette palette = widget.palette();
+    const QColor shown =
+        Readable_Text({colour.red, colour.green, colour.blue}, palette.color(QPalette::Window));
     if (palette.color(QPalette::WindowText) == shown) return;
     palette.setColor(QPalette::WindowText, shown);
     widget.setPalette(palette);

@@ -9,11 +9,15 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "qt/elided_label.h"
+#include "qt/number_field.h"
+
 namespace kervol::form {
 namespace {
 
 /// Sized by the font, so that numbers and units fit at every one.
 constexpr auto kWidestNumber = "-1,234.567";
+constexpr int kLettersOfHeader = 24;
 
 template <class Widget>
 Widget* Named(Widget* widget, const QString& name, const QString& accessible, const QString& tip) {
@@ -30,6 +34,13 @@ QLabel* New_Label(const QString& name) {
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+QLabel* New_Header() {
+    auto* header = new ElidedLabel(kLettersOfHeader);
+    header->setObjectName("lbl_Header");
+    header->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    return header;
 }
 
 QLabel* New_Heading(const QString& name, double size) {
@@ -67,6 +78,7 @@ QLineEdit* New_Number(const QString& name, const QString& accessible, const QStr
     QLineEdit* field = New_Text(name, accessible, tip);
     field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     field->setFixedWidth(field->fontMetrics().horizontalAdvance(kWidestNumber) + 14);
+    Watch_Number(field);
     return field;
 }
 

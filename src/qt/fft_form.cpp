@@ -79,8 +79,7 @@ QVBoxLayout* New_Side() {
                                  "Lines at the marks of the harmonics."));
     column->addWidget(New_Checks("fra_Style", "chk_Line", "Joins the tips of the spectral lines.",
                                  "chk_Sticks", "A line from 0 for each harmonic."));
-    QLabel* header = New_Label("lbl_Header");
-    header->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    QLabel* header = New_Header();
     column->addWidget(header);
     column->addStretch();
     return column;

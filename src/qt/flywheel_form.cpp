@@ -79,8 +79,7 @@ QVBoxLayout* New_Side() {
     column->addWidget(New_Torques("fra_Without", 0, 2));
     column->addWidget(New_Torques("fra_With", 1, 3));
     column->addWidget(New_Energies());
-    QLabel* header = New_Label("lbl_Header");
-    header->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    QLabel* header = New_Header();
     column->addWidget(header);
     column->addStretch();
     return column;

@@ -10,8 +10,10 @@
 
 #include "qt/binder.h"
 #include "qt/builders.h"
+#include "qt/elided_label.h"
 #include "qt/form_window.h"
 #include "qt/linkage_sketch.h"
+#include "qt/shared_key.h"
 
 namespace kervol {
 namespace {
@@ -91,8 +93,14 @@ QVBoxLayout* New_Button_Column(FormWindow& form) {
     column->addWidget(New_Big_Button("cmd_Animate", "Watch the calculated linkage move."));
     column->addWidget(New_Big_Button("cmd_Plot", "Plot calculated functions."));
     column->addWidget(New_Big_Button("cmd_Print", "Tabulate calculated functions."));
-    column->addWidget(New_Big_Button("cmd_Dynamics", "Masses, loads, pin forces and driving torque."));
-    column->addWidget(New_Big_Button("cmd_Flywheel", "Energy pulses of the driving torque, and a flywheel."));
+    QPushButton* dynamics = New_Big_Button("cmd_Dynamics", "Masses, loads, pin forces and driving torque.");
+    QPushButton* flywheel =
+        New_Big_Button("cmd_Flywheel", "Energy pulses of the driving torque, and a flywheel.");
+    // Their captions begin with a tab, which is not to be read out.
+    dynamics->setAccessibleName("Dynamics");
+    flywheel->setAccessibleName("Flywheel");
+    column->addWidget(dynamics);
+    column->addWidget(flywheel);
     column->addStretch();
     column->addWidget(New_Big_Button("cmd_Quit", "End the program."));
     return column;
@@ -110,13 +118,14 @@ QString Model_Line(const LinkageModel& model) {
 
 void Lay_Out_Home(FormWindow& form) {
     auto* all = new QGridLayout(&form);
-    all->setMenuBar(New_Menus(&form));
+    QMenuBar* menus = New_Menus(&form);
+    all->setMenuBar(menus);
     all->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     all->setHorizontalSpacing(2 * kGap);
     all->setVerticalSpacing(kGap);
     QLabel* title = New_Heading(QString(), 1.3);
     title->setWordWrap(true);
-    QLabel* line = New_Label(QString());
+    auto* line = new ElidedLabel(60);
     auto* frame = new QFrame;
     frame->setFrameShape(QFrame::StyledPanel);
     auto* inside = new QVBoxLayout(frame);
@@ -124,6 +133,10 @@ void Lay_Out_Home(FormWindow& form) {
     sketch->setAccessibleName("Figure of the linkage in hand");
     inside->addWidget(sketch, 1);
     all->addLayout(New_Button_Column(form), 0, 0, 3, 1);
+    const auto menu = [menus](const char* name) { return menus->findChild<QAction*>(name)->menu(); };
+    // File, FFT, Flywheel.
+    new SharedKey(Qt::Key_F, menus, menu("mnu_file"), menu("mnu_FFT"),
+                  form.findChild<QPushButton*>("cmd_Flywheel"));
     all->addWidget(title, 0, 1);
     all->addWidget(line, 1, 1);
     all->addWidget(frame, 2, 1);
@@ -135,7 +148,7 @@ void Lay_Out_Home(FormWindow& form) {
     form.refresh = [=](const LinkageModel& model) {
         title->setText(model.ModelTitle.empty() ? QString("Untitled linkage") : Qt_Text(model.ModelTitle));
         line->setText(Model_Line(model));
-        sketch->Show_Position(Find_Position(model));
+        sketch->Show_Model(model);
     };
 }
 

@@ -113,9 +113,8 @@ QGroupBox* New_Chain() {
     return group;
 }
 
-QLabel* New_Header() {
-    QLabel* header = New_Label("lbl_Header");
-    header->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+QLabel* New_High_Header() {
+    QLabel* header = New_Header();
     // With the line that a file adds.
     header->setFixedHeight(5 * header->fontMetrics().lineSpacing() + kRowGap);
     return header;
@@ -151,7 +150,7 @@ InputGroups New_Input_Groups() {
         {chain, New_Stage1(), New_Coupler_Points(), New_Pivot_O4(), New_Pivot_O6(), New_Directions()});
     left->addStretch();
     LinkageSketch* sketch = New_Nomenclature_Figure();
-    QVBoxLayout* right = New_Side({stage2, New_Drive(), New_Header()});
+    QVBoxLayout* right = New_Side({stage2, New_Drive(), New_High_Header()});
     right->addWidget(sketch, 1);
     auto* sides = new QHBoxLayout;
     sides->setSpacing(kGap);
@@ -168,7 +167,6 @@ InputGroups New_Input_Groups() {
         *shown = name;
         note->setVisible(name == "S");
         sketch->Show_Position(Nomenclature(name));
-        sketch->setAccessibleDescription(name == "W" ? "A Watt chain" : "A Stephenson chain");
     };
     return {column, chain->findChild<QRadioButton*>("opt_SteveWatt_0"), show};
 }

@@ -112,6 +112,16 @@ void Paint_Letter(QPainter& painter, const QPalette& palette, QPointF centre, co
     painter.fillPath(path, palette.color(QPalette::WindowText));
 }
 
+/// For those who cannot see the figure: the chain, and where its points stand.
+QString In_Words(const SketchPosition& position) {
+    QStringList places;
+    for (const Letter& letter : Letters(position))
+        places.append(QString("%1 (%2, %3)")
+                          .arg(letter.text, QString::number(letter.at.x(), 'g', 4),
+                               QString::number(letter.at.y(), 'g', 4)));
+    return (position.watt ? "A Watt chain: " : "A Stephenson chain: ") + places.join(", ");
+}
+
 void Paint_Link_Numbers(QPainter& painter, const QPalette& palette, const std::vector<QPolygonF>& links) {
     int number = 2;
     for (const QPolygonF& link : links) {
@@ -178,13 +188,31 @@ SketchPosition Nomenclature(const std::string& chain) {
 
 LinkageSketch::LinkageSketch(QSize size, QWidget* parent) : QWidget(parent), size_(size) {}
 
-void LinkageSketch::Show_Position(const std::optional<SketchPosition>& position) {
-    position_ = position;
+void LinkageSketch::Tell(const QString& description) {
+    if (accessibleDescription() != description) setAccessibleDescription(description);
     update();
 }
 
+void LinkageSketch::Show_Position(const SketchPosition& position) {
+    position_ = position;
+    Tell(In_Words(position));
+}
+
+void LinkageSketch::Show_Model(const LinkageModel& model) {
+    if (const auto position = Find_Position(model)) return Show_Position(*position);
+    position_.reset();
+    const bool is_empty = !(std::abs(model.Link2) > 0);
+    words_ = is_empty ? "No linkage yet.\nEnter one under Input, take an example, or open a file."
+                      : "No crank angle was found at which these links meet.\n"
+                        "Change lengths or pivots under Input.";
+    Tell(words_);
+}
+
 void LinkageSketch::paintEvent(QPaintEvent*) {
-    if (!position_) return;
+    if (!position_) {
+        QPainter(this).drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, words_);
+        return;
+    }
     std::vector<Letter> letters = Letters(*position_);
     const QTransform to_widget =
         Fitted(letters, QRectF(rect()).adjusted(kLetterRoom, kLetterRoom, -kLetterRoom, -kLetterRoom));

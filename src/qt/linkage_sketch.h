@@ -31,7 +31,9 @@ class LinkageSketch : public QWidget {
   public:
     LinkageSketch(QSize size, QWidget* parent = nullptr);
 
-    void Show_Position(const std::optional<SketchPosition>& position);
+    void Show_Position(const SketchPosition& position);
+    /// Where no position is found, words say what to do.
+    void Show_Model(const LinkageModel& model);
     /// Writes the number of each moving link, 2 to 6, in its middle.
     void Number_Links() { numbers_links_ = true; }
 
@@ -42,8 +44,11 @@ class LinkageSketch : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void Tell(const QString& description);
+
     QSize size_;
     std::optional<SketchPosition> position_;
+    QString words_;  ///< in the place of a position
     bool numbers_links_ = false;
 };
 

@@ -10,6 +10,9 @@ namespace kervol {
 /// row of a list. All other roles are unset, so that they go on following the desktop.
 QPalette Readable_Roles(const QPalette& desktop);
 
+/// A text's colour; on a dark ground as much lighter as it needs to be read there.
+QColor Readable_Text(const QColor& text, const QColor& ground);
+
 /// One style on every system, in the colours of the desktop but for the readable ones.
 void Set_Look();
 

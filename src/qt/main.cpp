@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window program: kervol [MODEL].
 #include <QApplication>
+#include <QLocale>
 #include <QTimer>
 #include <memory>
 
@@ -30,6 +31,8 @@ std::string Command_Line(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    // The toolkit's boxes speak as the rest does: in English, with points in the numbers.
+    QLocale::setDefault(QLocale::c());
     QApplication app(argc, argv);
     kervol::Set_Look();
     QApplication::setApplicationName("kervol");

@@ -172,7 +172,10 @@ QHBoxLayout* New_Notes() {
         New_Text_Label("*  LCRS = Local Rotating Coordinate System.    GCS = Global Coordinate System",
                        Qt::AlignLeft | Qt::AlignVCenter));
     row->addStretch();
-    row->addWidget(New_Check("chk_Torque", "Link 6 takes its torque, step by step, from a file."));
+    QCheckBox* torque = New_Check("chk_Torque", "Link 6 takes its torque, step by step, from a file.");
+    // Its caption ends with a blank, which is not to be read out.
+    torque->setAccessibleName("Import a Torque Function File to Apply to Link 6");
+    row->addWidget(torque);
     return row;
 }
 
@@ -204,8 +207,7 @@ void Lay_Out_Mass_Prop(FormWindow& form) {
     sketch->Number_Links();
     sketch->setAccessibleName("Figure of the linkage with the numbers of its links");
     inside->addWidget(sketch, 1);
-    QLabel* header = New_Label("lbl_Header");
-    header->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    QLabel* header = New_Header();
     auto* lower = new QHBoxLayout;
     lower->setSpacing(2 * kGap);
     lower->addWidget(frame, 1);
@@ -215,7 +217,7 @@ void Lay_Out_Mass_Prop(FormWindow& form) {
     Set_Tab_Order(form);
     form.first_focus = form.findChild<QWidget*>("txt_Mass_2");
     form.screen_share = 0.95;
-    form.refresh = [sketch](const LinkageModel& model) { sketch->Show_Position(Find_Position(model)); };
+    form.refresh = [sketch](const LinkageModel& model) { sketch->Show_Model(model); };
 }
 
 }  // namespace kervol

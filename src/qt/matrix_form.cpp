@@ -130,7 +130,7 @@ void Lay_Out_Matrix(FormWindow& form) {
     note->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     words->addWidget(note);
     words->addStretch();
-    words->addWidget(New_Label("lbl_Header"));
+    words->addWidget(New_Header());
     all->addLayout(words);
     auto* print = New_Button("cmd_Print");
     print->setToolTip("Prints an image of this screen.");

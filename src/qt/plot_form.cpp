@@ -202,6 +202,31 @@ QGroupBox* New_Stepping() {
     return group;
 }
 
+QString Text_Of(const QWidget& form, const QString& name) {
+    return form.findChild<QLabel*>(name)->text();
+}
+
+/// For those who cannot see it: what the picture shows, and between which values.
+void Describe(QWidget& picture, const QString& text) {
+    const QString description = text.simplified();
+    if (picture.accessibleDescription() != description) picture.setAccessibleDescription(description);
+}
+
+void Describe_Own_Plot(const QWidget& form, std::size_t i) {
+    const auto text = [&](const char* name) { return Text_Of(form, Indexed(name, i)); };
+    Describe(*form.findChild<QWidget*>(Indexed("pct_Plot", i)),
+             QString("%1 %2 from %3 to %4 %5, by %6 from %7 to %8")
+                 .arg(text("lbl_LeftTitle"), text("lbl_Comp"), text("lbl_Min"), text("lbl_Max"),
+                      text("lbl_PlotUnits"), text("lbl_BottomTitle"), text("lbl_Xmin"), text("lbl_Xmax")));
+}
+
+void Describe_Polar_Plot(const QWidget& form) {
+    const auto text = [&](const char* name) { return Text_Of(form, name); };
+    Describe(*form.findChild<QWidget*>("pct_Plot_0"),
+             QString("Vectors of %1; the axes reach to %2 %3")
+                 .arg(text("lbl_LeftTitle"), text("lbl_Xmax"), text("lbl_PlotUnits")));
+}
+
 }  // namespace
 
 void Lay_Out_Charts(FormWindow& form, const PlotKind& kind) {
@@ -229,6 +254,9 @@ void Lay_Out_Own_Plots(FormWindow& form, const PlotKind& kind, std::span<Picture
                                        });
     Lay_Out_Columns(form, kind, plots, {});
     form.first_focus = form.findChild<QWidget*>("cmd_PlotDone");
+    form.refresh = [&form, plots = pictures.size()](const LinkageModel&) {
+        for (std::size_t i = 0; i < plots; ++i) Describe_Own_Plot(form, i);
+    };
 }
 
 void Lay_Out_Polar_Plot(FormWindow& form, const PlotKind& kind, PictureList& picture) {
@@ -237,6 +265,7 @@ void Lay_Out_Polar_Plot(FormWindow& form, const PlotKind& kind, PictureList& pic
                                           New_Check("chk_Envelope", "Joins the tips of the rays.")}),
                      New_Stepping()});
     form.first_focus = form.findChild<QWidget*>("cmd_Step");
+    form.refresh = [&form](const LinkageModel&) { Describe_Polar_Plot(form); };
 }
 
 }  // namespace kervol

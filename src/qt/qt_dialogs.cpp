@@ -5,10 +5,13 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QSplitter>
 #include <QTimer>
+#include <QTreeView>
 #include <algorithm>
 #include <array>
 
@@ -32,6 +35,8 @@ constexpr std::array<AnswerButton, 7> kAnswers = {{
     {Answer::Yes, QMessageBox::Yes},
     {Answer::No, QMessageBox::No},
 }};
+
+constexpr QSize kFileDialog(820, 520);
 
 QMessageBox::StandardButton Button_Of(Answer answer) {
     for (const AnswerButton& pair : kAnswers)
@@ -99,6 +104,15 @@ void Follow_Filter(QFileDialog& dialog, const QString& filter) {
                    suffix);
 }
 
+/// For whole names of folders and dates of files.
+void Make_Room(QFileDialog& dialog) {
+    dialog.resize(dialog.sizeHint().expandedTo(kFileDialog));
+    if (auto* parts = dialog.findChild<QSplitter*>("splitter")) parts->setSizes({160, kFileDialog.width()});
+    if (auto* files = dialog.findChild<QTreeView*>("treeView"))
+        for (int column = 1; column < 4; ++column)
+            files->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+}
+
 QString Folder_Of(const std::string& path) {
     const QFileInfo file(Qt_Text(path));
     return path.empty() || !file.dir().exists() ? QString() : file.absolutePath();
@@ -164,6 +178,7 @@ std::optional<std::string> QtPort::Ask_File(const FileDialog& dialog, bool savin
         QObject::connect(&shown, &QFileDialog::filterSelected, &shown,
                          [&shown](const QString& filter) { Follow_Filter(shown, filter); });
     }
+    Make_Room(shown);
     // What is typed takes the place of the proposal.
     if (auto* field = shown.findChild<QLineEdit*>()) QTimer::singleShot(0, field, &QLineEdit::selectAll);
     const int pressed = shown.exec();

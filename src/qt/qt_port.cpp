@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "plots/plot_sheets.h"
+#include "qt/accessibility.h"
 #include "qt/picture_menu.h"
 #include "qt/wide_registers.h"
 #include "screens/control_lists.h"
@@ -42,7 +43,9 @@ bool Stands_Over(ScreenId screen, ScreenId opener) {
 
 }  // namespace
 
-QtPort::QtPort() = default;
+QtPort::QtPort() {
+    Announce_Own_Widgets();
+}
 QtPort::~QtPort() = default;
 
 void QtPort::Attach(Screens& screens) {
@@ -197,6 +200,7 @@ QtPort::OpenForm& QtPort::Made_Form(ScreenId screen) {
     form.window->close_asked = [this, screen] { Close_By_User(screen); };
     form.window->save_picture = [this](const Sheet& sheet) { Run([&] { Save_Picture(sheet); }); };
     Lay_Out(screen, form);
+    Name_Toolkit_Parts(*form.window);
     return form;
 }
 

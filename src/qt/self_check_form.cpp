@@ -15,7 +15,7 @@ namespace {
 using namespace form;
 
 /// Wide enough for the longest line of the report.
-constexpr int kColumns = 112;
+constexpr int kColumns = 124;
 
 QPlainTextEdit* New_Report() {
     auto* report = new QPlainTextEdit;

@@ -59,8 +59,7 @@ QVBoxLayout* New_State_Column() {
     auto* column = new QVBoxLayout;
     // With the options of a chart above them the parts just fit a screen of 768 lines.
     column->setSpacing(kRowGap);
-    QLabel* header = New_Label("lbl_Header");
-    header->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    QLabel* header = New_Header();
     for (QWidget* part :
          std::initializer_list<QWidget*>{New_Linkage(), New_Drive(), New_Coordinates(), header})
         column->addWidget(part);

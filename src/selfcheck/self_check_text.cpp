@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <iomanip>
+#include <numeric>
 #include <sstream>
 #include <string_view>
 #include <vector>
@@ -88,11 +89,11 @@ void Put_Steps(Out& out, const SelfCheck& result) {
     Put_Heading(out, "Step by step");
     out << "    " << std::string(15, ' ');
     for (const CheckedValue* check : shown)
-        out << std::right << std::setw(2 * kNumberWidth - 2)
+        out << std::right << std::setw(2 * kNumberWidth)
             << check->quantity.name + ", " + check->quantity.unit;
     out << "\n  Step       Theta2";
     for (std::size_t i = 0; i < shown.size(); ++i)
-        out << std::setw(kNumberWidth - 2) << "Tables" << std::setw(kNumberWidth) << "Consistent";
+        out << std::setw(kNumberWidth) << "Tables" << std::setw(kNumberWidth) << "Consistent";
     out << '\n';
     const auto count = static_cast<int>(result.steps.size());
     const int stride = std::max(1, (count + kShownSteps - 2) / (kShownSteps - 1));
@@ -101,7 +102,7 @@ void Put_Steps(Out& out, const SelfCheck& result) {
         out << std::setw(6) << row.step << std::setw(13) << Four_Digits(row.theta2);
         for (const CheckedValue* check : shown) {
             const bool has = !check->quantity.needs_forces || i < result.steps_with_forces;
-            out << std::setw(kNumberWidth - 2)
+            out << std::setw(kNumberWidth)
                 << (has ? Four_Digits(check->quantity.Size_Of(row.tabulated)) : "-")
                 << std::setw(kNumberWidth)
                 << (has ? Four_Digits(check->quantity.Size_Of(row.consistent)) : "-");
@@ -131,8 +132,14 @@ std::string_view Verdict_Word(Verdict verdict) {
 }
 
 /// Widths of the columns of all values; the first three are texts.
-constexpr std::array<int, 10> kColumnWidths = {23, 11, 11, 10, 10, 5, 10, 5, 11, 11};
+constexpr std::array<int, 10> kColumnWidths = {23, 11, 12, 11, 12, 6, 12, 6, 12, 12};
 constexpr std::size_t kTextColumns = 3;
+
+/// Of the columns from `first` up to `end`.
+int Width_Of_Columns(std::size_t first, std::size_t end) {
+    return std::accumulate(kColumnWidths.begin() + static_cast<std::ptrdiff_t>(first),
+                           kColumnWidths.begin() + static_cast<std::ptrdiff_t>(end), 0);
+}
 
 void Put_Cells(Out& out, const std::vector<std::string>& cells) {
     out << "  ";
@@ -169,7 +176,9 @@ void Put_All(Out& out, const SelfCheck& result) {
         "tabulated angles, and against rigid links. Shown is where it differs most; \"allowed\" is what "
         "the rounding of the tables can make of it there.",
         2);
-    out << "\n  " << std::string(45, ' ') << "From the tables' own rule    From rigid links\n";
+    constexpr std::size_t kRule = 6, kLinks = 8;
+    out << "\n  " << std::right << std::setw(Width_Of_Columns(0, kRule)) << "From the tables' own rule"
+        << std::setw(Width_Of_Columns(kRule, kLinks)) << "From rigid links" << '\n';
     Put_Cells(out, {"Value", "Unit", "", "by", "allowed", "step", "by", "step", "tables", "consistent"});
     const CheckedValue* before = nullptr;
     for (const CheckedValue& check : result.checks) {

@@ -45,6 +45,17 @@ TEST(Look, KeepsDisabledTextsAndTheMarkedRowOfADisabledListReadable) {
     }
 }
 
+TEST(Look, LightensAColouredTextOnADarkGroundUntilItCanBeRead) {
+    const QColor dark(42, 46, 50);
+    for (const QColor& colour : {QColor(Qt::red), QColor(Qt::blue), QColor(Qt::black)}) {
+        const QColor shown = Readable_Text(colour, dark);
+        EXPECT_GE((Luminance(shown) + 0.05) / (Luminance(dark) + 0.05), 4.5) << colour.name().toStdString();
+    }
+    EXPECT_GT(Readable_Text(Qt::red, dark).red(), Readable_Text(Qt::red, dark).green()) << "still a red";
+    EXPECT_EQ(Readable_Text(Qt::white, dark), QColor(Qt::white));
+    EXPECT_EQ(Readable_Text(Qt::red, QColor(239, 239, 239)), QColor(Qt::red)) << "as it is on a light one";
+}
+
 TEST(Look, LeavesAllThatIsEnabledToTheDesktop) {
     const QPalette desktop = Desktop(Qt::black, Qt::white);
     const QPalette shown = Readable_Roles(desktop).resolve(desktop);

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the report says, and which steps it covers.
+#include <algorithm>
+#include <cctype>
 #include <sstream>
 
 #include "selfcheck/self_check_text.h"
@@ -38,7 +40,30 @@ TEST_F(SelfCheckReport, HasItsPartsInOrderAndNoLineTooLong) {
             EXPECT_NE(at, std::string::npos) << heading;
         }
         std::istringstream lines(text);
-        for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 110U) << line;
+        for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 120U) << line;
+    }
+}
+
+TEST_F(SelfCheckReport, NumbersOfATableKeepClearOfEachOther) {
+    for (const char* example : {"watt", "hoeken"}) {
+        const std::string text = Text(Check_Example(example));
+        int rows = 0;
+        for (const char* table : {"\nStep by step\n", "\nAll values\n"}) {
+            std::istringstream lines(text.substr(text.find(table)));
+            std::string line;
+            // The table ends where the text does, or the next heading's lines without numbers begin.
+            while (std::getline(lines, line)) {
+                const std::string numbers = line.substr(std::min<std::size_t>(line.size(), 25));
+                if (numbers.find_first_of("0123456789") == std::string::npos) continue;
+                ++rows;
+                for (std::size_t i = 1; i + 1 < numbers.size(); ++i) {
+                    const bool single = numbers[i] == ' ' && std::isdigit(numbers[i - 1]) != 0 &&
+                                        (std::isdigit(numbers[i + 1]) != 0 || numbers[i + 1] == '-');
+                    EXPECT_FALSE(single) << line;
+                }
+            }
+        }
+        EXPECT_GT(rows, 60);
     }
 }
 
