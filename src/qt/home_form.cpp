@@ -8,10 +8,10 @@
 #include <QMenuBar>
 #include <QPushButton>
 
-#include "qt/binder.h"
 #include "qt/builders.h"
 #include "qt/form_window.h"
 #include "qt/linkage_sketch.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {
