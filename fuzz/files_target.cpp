@@ -6,7 +6,6 @@
 #include <memory>
 #include <set>
 #include <string>
-#include <utility>
 
 #include "core/model_fields.h"
 #include "core/report.h"
@@ -145,7 +144,9 @@ void Read_As(const FileKind& kind, const std::string& path, const TemporaryFolde
     Demand_Finite(program, "after the dynamics");
 }
 
-LineKind Lines_Of_Files() {
+}  // namespace
+
+LineKind Lines_Of_Input() {
     return {",\t ", [](FuzzRandom& random) {
                 std::string line = Edge_Value(random);
                 while (Below(random, 4) == 0) line += "," + Edge_Value(random);
@@ -153,7 +154,6 @@ LineKind Lines_Of_Files() {
             }};
 }
 
-}  // namespace
 }  // namespace kervol
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -161,16 +161,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string path = folder.Put("input", {reinterpret_cast<const char*>(data), size});
     for (const kervol::FileKind& kind : kervol::kKinds) kervol::Read_As(kind, path, folder);
     return 0;
-}
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t max_size,
-                                               unsigned seed) {
-    return kervol::Mutate_Lines(kervol::Lines_Of_Files(), data, size, max_size, seed);
-}
-
-extern "C" std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* first, std::size_t first_size,
-                                                 const std::uint8_t* second, std::size_t second_size,
-                                                 std::uint8_t* out, std::size_t max_size, unsigned seed) {
-    return kervol::Splice_Lines({reinterpret_cast<const char*>(first), first_size},
-                                {reinterpret_cast<const char*>(second), second_size}, out, max_size, seed);
 }

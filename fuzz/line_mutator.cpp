@@ -5,6 +5,7 @@
 #include <array>
 #include <cstring>
 #include <utility>
+#include <vector>
 
 /// Of libFuzzer: changes bytes in place and returns the new size.
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t max_size);
@@ -16,6 +17,10 @@ using Lines = std::vector<std::string>;
 using LineChange = void (*)(const LineKind& kind, Lines& lines, FuzzRandom& random);
 
 constexpr std::size_t kLongText = 4000;
+
+std::string_view Text_Of(const std::uint8_t* data, std::size_t size) {
+    return {reinterpret_cast<const char*>(data), size};
+}
 
 /// Each with its end.
 Lines Lines_Of(std::string_view text) {
@@ -229,11 +234,17 @@ std::string Edge_Value(FuzzRandom& random) {
     return std::string(kValues.at(choice));
 }
 
-std::size_t Mutate_Lines(const LineKind& kind, std::uint8_t* data, std::size_t size, std::size_t max_size,
-                         unsigned seed) {
+}  // namespace kervol
+
+/// Of libFuzzer: swaps, drops, doubles, moves and makes lines, and replaces values; now and then changes
+/// bytes as libFuzzer itself does. Returns the size of the changed text, at most `max_size`.
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t max_size,
+                                               unsigned seed) {
+    using namespace kervol;
     FuzzRandom random(seed);
     if (Below(random, 10) == 0) return LLVMFuzzerMutate(data, size, max_size);
-    Lines lines = Lines_Of({reinterpret_cast<const char*>(data), size});
+    const LineKind kind = Lines_Of_Input();
+    Lines lines = Lines_Of(Text_Of(data, size));
     for (std::size_t changes = 1 + Below(random, 4); changes > 0; --changes) {
         const LineChange change = lines.empty() ? Insert_Line : kChanges.at(Below(random, kChanges.size()));
         change(kind, lines, random);
@@ -241,11 +252,15 @@ std::size_t Mutate_Lines(const LineKind& kind, std::uint8_t* data, std::size_t s
     return Put_Text(lines, data, max_size);
 }
 
-std::size_t Splice_Lines(std::string_view first, std::string_view second, std::uint8_t* out,
-                         std::size_t max_size, unsigned seed) {
+/// Of libFuzzer: puts lines of the second text in the place of lines of the first, at the same place or
+/// another. Returns the size of the text, at most `max_size`.
+extern "C" std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* first, std::size_t first_size,
+                                                 const std::uint8_t* second, std::size_t second_size,
+                                                 std::uint8_t* out, std::size_t max_size, unsigned seed) {
+    using namespace kervol;
     FuzzRandom random(seed);
-    Lines lines = Lines_Of(first);
-    Lines others = Lines_Of(second);
+    Lines lines = Lines_Of(Text_Of(first, first_size));
+    Lines others = Lines_Of(Text_Of(second, second_size));
     if (lines.empty() || others.empty()) return Put_Text(lines, out, max_size);
     const auto [first_taken, last_taken] = Some_Lines(others.size(), random);
     // The position is what a line means.
@@ -257,5 +272,3 @@ std::size_t Splice_Lines(std::string_view first, std::string_view second, std::u
     lines.insert(Line_At(lines, at), Line_At(others, first_taken), Line_At(others, last_taken));
     return Put_Text(lines, out, max_size);
 }
-
-}  // namespace kervol

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Changes texts by lines and values. Files that hold one value a line are hardly ever read beyond their first
-// lines when single bytes are changed.
+// The mutator of all fuzzers, which changes texts by lines and values. Files that hold one value a line are
+// hardly ever read beyond their first lines when single bytes are changed.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <random>
-#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace kervol {
 
@@ -30,13 +28,7 @@ struct LineKind {
     std::function<std::string(FuzzRandom&)> new_line;
 };
 
-/// Swaps, drops, doubles, moves and makes lines, and replaces values; now and then changes bytes as libFuzzer
-/// itself does. Returns the size of the changed text, at most `max_size`.
-std::size_t Mutate_Lines(const LineKind& kind, std::uint8_t* data, std::size_t size, std::size_t max_size,
-                         unsigned seed);
-
-/// Puts lines of the second text in the place of lines of the first, at the same place or another.
-std::size_t Splice_Lines(std::string_view first, std::string_view second, std::uint8_t* out,
-                         std::size_t max_size, unsigned seed);
+/// Each fuzzer says here of what its input consists.
+LineKind Lines_Of_Input();
 
 }  // namespace kervol

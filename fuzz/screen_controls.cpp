@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screen_controls.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "core/fault.h"

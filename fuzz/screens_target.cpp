@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any events in any order on all screens: what a person could do with keyboard and mouse, and a little more.
-#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -75,11 +74,12 @@ std::string New_Event(FuzzRandom& random) {
     }
 }
 
-LineKind Events() {
+}  // namespace
+
+LineKind Lines_Of_Input() {
     return {"=", New_Event};
 }
 
-}  // namespace
 }  // namespace kervol
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -89,16 +89,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     person->Use_Program();
     if (person->files_used) desk.Tidy();
     return 0;
-}
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t max_size,
-                                               unsigned seed) {
-    return kervol::Mutate_Lines(kervol::Events(), data, size, max_size, seed);
-}
-
-extern "C" std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* first, std::size_t first_size,
-                                                 const std::uint8_t* second, std::size_t second_size,
-                                                 std::uint8_t* out, std::size_t max_size, unsigned seed) {
-    return kervol::Splice_Lines({reinterpret_cast<const char*>(first), first_size},
-                                {reinterpret_cast<const char*>(second), second_size}, out, max_size, seed);
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "core/arithmetic.h"
+#include "core/model_questions.h"
 
 namespace kervol {
 namespace {
@@ -71,14 +72,6 @@ std::vector<Path> Coupler_Path(const Program& program, int coupler_point) {
         restart = !program.tables.StepValid(step);
     }
     return runs;
-}
-
-bool Has_Stage2(const LinkageModel& model) {
-    return model.LinkageType == "W" || model.LinkageType == "S";
-}
-
-std::int16_t Last_Step(const LinkageModel& model) {
-    return std::min<std::int16_t>(model.NumSteps, MaxSteps);
 }
 
 void Extent::Widen(double x, double y) {

@@ -30,11 +30,6 @@ using Path = std::vector<UserPoint>;
 /// The path of coupler point 1 or 2 in runs of steps that assembled; a chain without Stage 2 has no point 2.
 std::vector<Path> Coupler_Path(const Program& program, int coupler_point);
 
-bool Has_Stage2(const LinkageModel& model);
-
-/// Highest step that the tables hold.
-std::int16_t Last_Step(const LinkageModel& model);
-
 /// Bounds of all that is seen in the whole motion, pivots and cam included.
 struct Extent {
     double left, bottom, right, top;

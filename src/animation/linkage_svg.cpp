@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/markup_text.h"
+#include "core/model_questions.h"
 
 namespace kervol {
 namespace {

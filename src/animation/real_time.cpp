@@ -7,6 +7,7 @@
 
 #include "animation/link_shapes.h"
 #include "core/arithmetic.h"
+#include "core/model_questions.h"
 
 namespace kervol {
 namespace {

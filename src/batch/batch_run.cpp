@@ -4,10 +4,11 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
-#include <utility>
 
 #include "core/fault.h"
+#include "core/model_questions.h"
 #include "dynamics/solve_forces.h"
+#include "files/model_file.h"
 #include "kinematics/examples.h"
 #include "startup/launch.h"
 
@@ -153,7 +154,7 @@ std::string BatchRun::Calculation_Complaint() const {
                " is none of 1 to 5; mend line 39 of the file";
     if (!model.SomeStepFailed) return Forces_Complaint();
     int failed = 0;
-    for (int step = 0; step <= std::min<int>(model.NumSteps, MaxSteps); ++step)
+    for (int step = 0; step <= Last_Step(model); ++step)
         if (!program_->tables.StepValid(step)) ++failed;
     if (failed == 0) return "a position beyond the end of the range did not assemble; all steps did";
     return std::to_string(failed) + " of " + std::to_string(model.NumSteps + 1) +

@@ -8,7 +8,7 @@
 
 #include "core/program.h"
 #include "dynamics/crank_torque_areas.h"
-#include "files/model_file.h"
+#include "files/read_report.h"
 #include "headless/recording_port.h"
 #include "kinematics/step_count.h"
 

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <filesystem>
 
+#include "batch/output_table.h"
+#include "catalogue/names.h"
 #include "core/number_text.h"
 #include "kinematics/examples.h"
 
@@ -17,6 +19,14 @@ float Fluctuation(const std::string& text) {
     if (!std::isfinite(single))
         throw CLI::ValidationError("--fluct", "\"" + text + "\" is no number; try 0.05");
     return single;
+}
+
+void Part_Model_From_Functions(Source& source, std::vector<std::string>& functions) {
+    if (source.Is_Named() || functions.size() < 2) return;
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(functions.back(), error)) return;
+    source.model = functions.back();
+    functions.pop_back();
 }
 
 }  // namespace
@@ -33,14 +43,6 @@ void Require_One_Source(const Source& source) {
         throw CLI::ValidationError("name one MODEL or one --example");
 }
 
-void Part_Model_From_Functions(Source& source, std::vector<std::string>& functions) {
-    if (source.Is_Named() || functions.size() < 2) return;
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(functions.back(), error)) return;
-    source.model = functions.back();
-    functions.pop_back();
-}
-
 bool Take_Model(BatchRun& run, const Source& source) {
     return source.example.empty() ? run.Open(source.model) : run.Load(source.example);
 }
@@ -51,10 +53,14 @@ std::vector<std::string> Example_Names() {
     return names;
 }
 
-CLI::Option* Add_Output_Option(CLI::App& command, std::string& file, const char* help) {
-    return command.add_option("-o", file, help)->type_name("FILE")->check([](const std::string& name) {
-        return name.empty() ? "needs the name of a file" : "";
+CLI::Option* Add_File_Option(CLI::App& command, const char* name, std::string& file, const char* help) {
+    return command.add_option(name, file, help)->type_name("FILE")->check([](const std::string& text) {
+        return text.empty() ? "needs the name of a file" : "";
     });
+}
+
+CLI::Option* Add_Output_Option(CLI::App& command, std::string& file, const char* help) {
+    return Add_File_Option(command, "-o", file, help);
 }
 
 void Add_Dynamics_Options(CLI::App& command, DynamicsOptions& options) {
@@ -80,7 +86,26 @@ FurtherTables Add_Further(BatchRun& run, const DynamicsOptions& options) {
     return further;
 }
 
+void Add_Function_Options(CLI::App& command, FunctionOptions& options, const char* frame_help) {
+    command.add_option("--function", options.functions, "up to four, each a name and its component")
+        ->type_name("NAME[:X|Y|Mag|Ang]");
+    command.add_option("--preset", options.preset, "the functions of a preset")->type_name("TITLE");
+    command.add_option("--frame", options.frame, frame_help)
+        ->check(CLI::IsMember({"global", "local"}))
+        ->type_name("FRAME")
+        ->capture_default_str();
+}
+
+void Require_Source_And_Functions(Source& source, FunctionOptions& options) {
+    Part_Model_From_Functions(source, options.functions);
+    Require_One_Source(source);
+    if (options.functions.empty() == options.preset.empty())
+        throw CLI::ValidationError("name --function or --preset, one of them");
+}
+
 std::string Choose_And_Compute(BatchRun& run, const std::function<std::string()>& choose) {
+    Program& program = run.program();
+    Change_Catalog_Labels(program.catalogue, program.model.LinkageType);
     std::string objection = choose();
     if (!objection.empty()) {
         run.Add_Dynamics();
@@ -90,6 +115,16 @@ std::string Choose_And_Compute(BatchRun& run, const std::function<std::string()>
         run.Add_Flywheel();
         objection = choose();
     }
+    return objection;
+}
+
+std::string Choose_And_Compute(BatchRun& run, const FunctionOptions& options, SlotLabels& labels) {
+    Program& program = run.program();
+    const std::string objection = Choose_And_Compute(run, [&] {
+        return options.preset.empty() ? Choose_Functions(program, options.functions, labels)
+                                      : Choose_Preset(program, options.preset, labels);
+    });
+    program.selections.LocalCoords = options.frame == "local" ? 2 : 0;
     return objection;
 }
 

@@ -11,13 +11,13 @@
 #include <type_traits>
 #include <variant>
 
-#include "animation/link_shapes.h"
 #include "catalogue/catalogue_table.h"
 #include "catalogue/lists.h"
 #include "catalogue/selection.h"
 #include "core/arithmetic.h"
 #include "core/markup_text.h"
 #include "core/model_fields.h"
+#include "core/model_questions.h"
 #include "core/number_text.h"
 #include "files/model_layout.h"
 

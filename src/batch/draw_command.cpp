@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The command that draws the linkage.
-#include <algorithm>
 #include <memory>
 #include <optional>
 

@@ -10,6 +10,7 @@
 #include "batch/command_options.h"
 #include "batch/commands.h"
 #include "core/markup_text.h"
+#include "core/model_questions.h"
 #include "core/report.h"
 #include "headless/dxf_writer.h"
 

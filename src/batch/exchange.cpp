@@ -1,18 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/exchange.h"
 
+#include "batch/command_options.h"
 #include "files/exchange.h"
-
-#include <CLI/CLI.hpp>
 
 namespace kervol {
 namespace {
-
-void Add_File(CLI::App& command, const char* name, std::string& file, const char* help) {
-    command.add_option(name, file, help)->type_name("FILE")->check([](const std::string& text) {
-        return text.empty() ? "needs the name of a file" : "";
-    });
-}
 
 void Require_One(const std::string& first, const std::string& second, const char* objection) {
     if (first.empty() == second.empty()) throw CLI::ValidationError(objection);
@@ -21,14 +14,15 @@ void Require_One(const std::string& first, const std::string& second, const char
 }  // namespace
 
 void Add_Drive_Options(CLI::App& command, ExchangeFiles& files) {
-    Add_File(command, "--sva", files.sva, "drive of a cam (.sva)");
-    Add_File(command, "--out", files.out, "drive by link 6 of another linkage (.out)");
-    Add_File(command, "--save", files.save, "write the driven model there (.kvl); tables then only with -o");
+    Add_File_Option(command, "--sva", files.sva, "drive of a cam (.sva)");
+    Add_File_Option(command, "--out", files.out, "drive by link 6 of another linkage (.out)");
+    Add_File_Option(command, "--save", files.save,
+                    "write the driven model there (.kvl); tables then only with -o");
 }
 
 void Add_Export_Options(CLI::App& command, ExchangeFiles& files) {
-    Add_File(command, "--link6", files.link6, "write the motion of link 6 there (.out)");
-    Add_File(command, "--torque", files.torque, "write the driving torque of link 2 there (.trq)");
+    Add_File_Option(command, "--link6", files.link6, "write the motion of link 6 there (.out)");
+    Add_File_Option(command, "--torque", files.torque, "write the driving torque of link 2 there (.trq)");
 }
 
 void Require_One_Drive(const ExchangeFiles& files) {

@@ -5,6 +5,7 @@
 #include "batch/command_options.h"
 #include "batch/commands.h"
 #include "batch/exchange.h"
+#include "files/model_file.h"
 
 namespace kervol {
 namespace {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "animation/fitted_view.h"
+#include "core/model_questions.h"
 #include "headless/gif_writer.h"
 #include "headless/raster_canvas.h"
 

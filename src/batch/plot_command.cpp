@@ -8,10 +8,8 @@
 #include <string_view>
 
 #include "batch/commands.h"
-#include "batch/output_table.h"
 #include "batch/picture_options.h"
 #include "catalogue/catalogue_table.h"
-#include "catalogue/names.h"
 #include "core/picture_list.h"
 #include "plots/plot_sheets.h"
 
@@ -23,9 +21,7 @@ constexpr double kPageWidth = 1000;
 
 struct Arguments {
     Source source;
-    std::vector<std::string> functions;
-    std::string preset;
-    std::string frame = "global";
+    FunctionOptions functions;
     std::string style = "annotated";
     std::optional<std::int16_t> windows;
     std::string size = "1000x700";
@@ -121,18 +117,13 @@ int Draw_Plot(Console& console, const Arguments& arguments) {
     if (run.Outcome() == GivenUp) return console.Close(run);
 
     Program& program = run.program();
-    Change_Catalog_Labels(program.catalogue, program.model.LinkageType);
     SlotLabels labels;
-    std::string objection = Choose_And_Compute(run, [&] {
-        return arguments.preset.empty() ? Choose_Functions(program, arguments.functions, labels)
-                                        : Choose_Preset(program, arguments.preset, labels);
-    });
+    std::string objection = Choose_And_Compute(run, arguments.functions, labels);
     if (objection.empty()) objection = Objection(program, arguments);
     if (!objection.empty()) return console.Complain(WrongUse, objection);
 
     Selections& selections = program.selections;
     selections.SelCount = selections.NumSelected;
-    selections.LocalCoords = arguments.frame == "local" ? 2 : 0;
     const PixelSize size = *Pixel_Size(arguments.size);
     const PageSize page = {kPageWidth, kPageWidth * size.height / size.width};
     program.plots.PlotCount = Windows_For(arguments, selections.NumSelected).value_or(1);
@@ -145,10 +136,7 @@ int Draw_Plot(Console& console, const Arguments& arguments) {
 }
 
 void Check_Arguments(Arguments& arguments) {
-    Part_Model_From_Functions(arguments.source, arguments.functions);
-    Require_One_Source(arguments.source);
-    if (arguments.functions.empty() == arguments.preset.empty())
-        throw CLI::ValidationError("name --function or --preset, one of them");
+    Require_Source_And_Functions(arguments.source, arguments.functions);
     if (arguments.windows && arguments.style == "polar")
         throw CLI::ValidationError("a polar plot has one window; leave --windows out");
 }
@@ -165,9 +153,8 @@ Command Plot_Command(CLI::App& app) {
     const auto arguments = std::make_shared<Arguments>();
     CLI::App& command = *app.add_subcommand("plot", "Calculate a model and plot chosen functions");
     Add_Source_Options(command, arguments->source);
-    command.add_option("--function", arguments->functions, "up to four, each a name and its component")
-        ->type_name("NAME[:X|Y|Mag|Ang]");
-    command.add_option("--preset", arguments->preset, "the functions of a preset")->type_name("TITLE");
+    Add_Function_Options(command, arguments->functions,
+                         "frame of vectors; a local one turns with the point's link");
     command
         .add_option("--style", arguments->style,
                     "annotated charts, aligned plots of two or four functions, or a polar plot of one vector")
@@ -180,11 +167,6 @@ Command Plot_Command(CLI::App& app) {
                     "[annotated 1, aligned as many as functions]")
         ->check(CLI::IsMember({1, 2, 4}))
         ->type_name("N");
-    command
-        .add_option("--frame", arguments->frame, "frame of vectors; a local one turns with the point's link")
-        ->check(CLI::IsMember({"global", "local"}))
-        ->type_name("FRAME")
-        ->capture_default_str();
     command.add_option("--size", arguments->size, "pixels of the picture")
         ->check(Size_Objection)
         ->type_name("WIDTHxHEIGHT")

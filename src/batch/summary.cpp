@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/model_questions.h"
 #include "core/number_text.h"
 #include "dynamics/joint_forces.h"
 #include "report/model_words.h"
@@ -106,7 +107,7 @@ void Put_Motion(Out& out, const ResultTables& tables, int last) {
 
 std::string Summary(const Program& program, std::optional<int> solved_steps) {
     const LinkageModel& model = program.model;
-    const int last = std::min<int>(model.NumSteps, MaxSteps);
+    const int last = Last_Step(model);
     Out out;
     out << (model.ModelTitle.empty() ? model.ModelName : model.ModelTitle) << "\n\n";
     if (!model.ModelPath.empty()) Put_Line(out, "File", model.ModelPath);

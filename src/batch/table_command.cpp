@@ -15,9 +15,7 @@ namespace {
 
 struct Arguments {
     Source source;
-    std::vector<std::string> functions;
-    std::string preset;
-    std::string frame = "global";
+    FunctionOptions functions;
     std::string format = "text";
     std::optional<std::int16_t> every;
     std::optional<std::int16_t> decimals;
@@ -39,24 +37,16 @@ int Write_Table(Console& console, const Arguments& arguments) {
     if (run.Outcome() == GivenUp) return console.Close(run);
 
     Program& program = run.program();
-    Change_Catalog_Labels(program.catalogue, program.model.LinkageType);
     SlotLabels labels;
-    const std::string objection = Choose_And_Compute(run, [&] {
-        return arguments.preset.empty() ? Choose_Functions(program, arguments.functions, labels)
-                                        : Choose_Preset(program, arguments.preset, labels);
-    });
+    const std::string objection = Choose_And_Compute(run, arguments.functions, labels);
     if (!objection.empty()) return console.Complain(WrongUse, objection);
-    program.selections.LocalCoords = arguments.frame == "local" ? 2 : 0;
     program.model.PrintStep = arguments.every.value_or(program.model.PrintStep);
     program.output.DecimalPlaces = arguments.decimals.value_or(program.output.DecimalPlaces);
     return console.Put_Out(run, Table_Text(program, labels, arguments.format), arguments.output);
 }
 
 void Check_Table_Arguments(Arguments& arguments) {
-    Part_Model_From_Functions(arguments.source, arguments.functions);
-    Require_One_Source(arguments.source);
-    if (arguments.functions.empty() == arguments.preset.empty())
-        throw CLI::ValidationError("name --function or --preset, one of them");
+    Require_Source_And_Functions(arguments.source, arguments.functions);
     if (arguments.format == "csv" && (arguments.every || arguments.decimals))
         throw CLI::ValidationError("csv has every step in full; leave --every and --decimals out");
 }
@@ -76,16 +66,9 @@ Command Table_Command(CLI::App& app) {
     CLI::App& command =
         *app.add_subcommand("table", "Calculate a model and write chosen functions as a table");
     Add_Source_Options(command, arguments->source);
-    command.add_option("--function", arguments->functions, "up to four, each a name and its component")
-        ->type_name("NAME[:X|Y|Mag|Ang]");
-    command.add_option("--preset", arguments->preset, "the functions of a preset")->type_name("TITLE");
-    command
-        .add_option(
-            "--frame", arguments->frame,
-            "frame of vectors; a local one turns with the crank, in csv points turn with their own link")
-        ->check(CLI::IsMember({"global", "local"}))
-        ->type_name("FRAME")
-        ->capture_default_str();
+    Add_Function_Options(
+        command, arguments->functions,
+        "frame of vectors; a local one turns with the crank, in csv points turn with their own link");
     command.add_option("--every", arguments->every, "steps from row to row, else the model's (dat, text)")
         ->check(CLI::Range(1, MaxSteps))
         ->type_name("N");

@@ -6,7 +6,6 @@
 #include "batch/command_options.h"
 #include "batch/commands.h"
 #include "batch/output_table.h"
-#include "catalogue/names.h"
 #include "fourier/transform.h"
 
 namespace kervol {
@@ -29,7 +28,6 @@ std::string Add_Spectrum(BatchRun& run, const Arguments& arguments, FurtherTable
     Program& program = run.program();
     further.spectrum = true;
     if (!run.Is_Calculated()) return {};
-    Change_Catalog_Labels(program.catalogue, program.model.LinkageType);
     SlotLabels labels;
     std::string objection = Choose_And_Compute(run, [&] {
         return Choose_Functions(program, {arguments.function + ":" + arguments.component}, labels);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch/tables_json.h"
 
-#include <algorithm>
 #include <array>
 #include <variant>
 
 #include "batch/json_writer.h"
 #include "core/model_fields.h"
+#include "core/model_questions.h"
 
 namespace kervol {
 namespace {
@@ -67,7 +67,7 @@ void Put_Flywheel(JsonWriter& json, const CrankTorqueAreas& areas) {
 std::string Tables_Json(const Program& program, const RecordingPort& port, const FurtherTables& further) {
     const LinkageModel& model = program.model;
     const ResultTables& tables = program.tables;
-    const int last = std::min<int>(model.NumSteps, MaxSteps);
+    const int last = Last_Step(model);
 
     JsonWriter json;
     json.Begin_Object();

@@ -2,7 +2,6 @@
 #include "core/mathematics.h"
 
 #include <cmath>
-#include <string>
 
 #include "core/arithmetic.h"
 #include "core/constants.h"

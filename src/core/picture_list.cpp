@@ -1,14 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/picture_list.h"
 
-#include "core/arithmetic.h"
-
 namespace kervol {
-
-bool Shape::operator==(const Shape& other) const {
-    return kind == other.kind && Is_Same(x1, other.x1) && Is_Same(y1, other.y1) && Is_Same(x2, other.x2) &&
-           Is_Same(y2, other.y2);
-}
 
 std::size_t PictureList::ShapeHash::operator()(const Shape& shape) const {
     std::size_t hash = static_cast<std::size_t>(shape.kind);
@@ -20,16 +13,15 @@ std::size_t PictureList::ShapeHash::operator()(const Shape& shape) const {
 void PictureList::Clear() {
     drawn_.clear();
     last_.clear();
-    x_ = y_ = 0;
+    Move_To(0, 0);
     Changed();
 }
 
 void PictureList::Set_Scale(double left, double top, double right, double bottom) {
     Check_Scale(left, top, right, bottom);
-    const bool same = Is_Same(left, window_.left) && Is_Same(top, window_.top) &&
-                      Is_Same(right, window_.right) && Is_Same(bottom, window_.bottom);
-    if (same) return;
-    window_ = {left, top, right, bottom};
+    const WorldWindow window = {left, top, right, bottom};
+    if (window == window_) return;
+    window_ = window;
     Clear();
 }
 
@@ -39,24 +31,21 @@ void PictureList::Set_Background(Colour colour) {
 }
 
 void PictureList::Line(double x1, double y1, double x2, double y2, Colour colour) {
-    Add({Shape::Kind::Line, x1, y1, x2, y2}, colour, x2, y2);
-}
-
-void PictureList::Line_To(double x, double y, Colour colour) {
-    Line(x_, y_, x, y, colour);
+    Move_To(x2, y2);
+    Add({Shape::Kind::Line, x1, y1, x2, y2}, colour);
 }
 
 void PictureList::Circle(double x, double y, double radius, Colour colour) {
-    Add({Shape::Kind::Circle, x, y, radius, 0}, colour, x, y);
+    Move_To(x, y);
+    Add({Shape::Kind::Circle, x, y, radius, 0}, colour);
 }
 
 void PictureList::Set_Point(double x, double y, Colour colour) {
-    Add({Shape::Kind::Point, x, y, 0, 0}, colour, x, y);
+    Move_To(x, y);
+    Add({Shape::Kind::Point, x, y, 0, 0}, colour);
 }
 
-void PictureList::Add(const Shape& shape, Colour colour, double x, double y) {
-    x_ = x;
-    y_ = y;
+void PictureList::Add(const Shape& shape, Colour colour) {
     const auto [place, is_new] = last_.try_emplace(shape, drawn_.size());
     if (!is_new) drawn_[place->second].covered = true;
     if (colour == background_) {

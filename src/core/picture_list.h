@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "core/picture.h"
+#include "core/pen_picture.h"
 
 namespace kervol {
 
@@ -18,7 +18,7 @@ struct Shape {
     Kind kind;
     double x1, y1, x2, y2;
 
-    bool operator==(const Shape& other) const;
+    bool operator==(const Shape&) const = default;
 };
 
 struct Stroke {
@@ -26,22 +26,16 @@ struct Stroke {
     Colour colour;
 };
 
-/// The square or oblong part of the world that the picture shows.
-struct WorldWindow {
-    double left, top, right, bottom;
-};
-
 /// Of several strokes of one shape only the last is kept: it covers the others, so the picture is the same,
 /// its smooth edges do not darken, and stepping for hours does not grow the list. A stroke in the colour of
 /// the background takes away what stands in its shape, smooth edges and all, and leaves what it crosses.
-class PictureList : public Picture {
+class PictureList : public PenPicture {
   public:
     void Clear() override;
     /// A changed window clears the picture first: strokes of two windows do not fit each other.
     void Set_Scale(double left, double top, double right, double bottom) override;
     void Set_Background(Colour colour) override;
     void Line(double x1, double y1, double x2, double y2, Colour colour) override;
-    void Line_To(double x, double y, Colour colour) override;
     void Circle(double x, double y, double radius, Colour colour) override;
     void Set_Point(double x, double y, Colour colour) override;
 
@@ -63,7 +57,7 @@ class PictureList : public Picture {
         bool covered = false;
     };
 
-    void Add(const Shape& shape, Colour colour, double x, double y);
+    void Add(const Shape& shape, Colour colour);
     void Drop_Covered();
     void Changed() const {
         if (changed) changed();
@@ -73,7 +67,6 @@ class PictureList : public Picture {
     std::unordered_map<Shape, std::size_t, ShapeHash> last_;  ///< where in `drawn_` a shape stands last
     WorldWindow window_{0, 0, 1, 1};
     Colour background_{255, 255, 255};
-    double x_ = 0, y_ = 0;  ///< the current point
 };
 
 }  // namespace kervol

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/result_tables.h"
 
-#include <algorithm>
-
+#include "core/model_questions.h"
 #include "core/program.h"
 #include "core/report.h"
 
@@ -12,7 +11,7 @@ void Clear_Tables(Program& program) {
     Procedure(program, "Clear_Tables", [&] {
         ResultTables& tables = program.tables;
         // A count that was refused stays in the model.
-        const int last = std::min<int>(program.model.NumSteps, MaxSteps);
+        const int last = Last_Step(program.model);
         for (int step = 0; step <= last; ++step) {
             tables.Theta(step).Fill(0);
             tables.Omega(step).Fill(0);

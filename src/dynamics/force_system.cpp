@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dynamics/force_system.h"
 
+#include "core/model_questions.h"
+
 namespace kervol {
 namespace {
 
@@ -35,8 +37,8 @@ void Put_Joint(SystemMatrix& A, int column, int link, double sign, Vec arm) {
 }
 
 void Put_Coefficients(const LinkageModel& model, const LinkMotion& motion, SystemMatrix& A) {
+    if (!Has_Stage2(model)) return;
     const bool watt = model.LinkageType == "W";
-    if (!watt && model.LinkageType != "S") return;
     const auto& link = motion.link;
     Put_Joint(A, unknown::F12, 2, 1, To_Pivot(link(2)));
     Put_Joint(A, unknown::F32, 2, 1, To_End(link(2), model.Link2));

@@ -22,10 +22,6 @@ void RecordingPicture::Line(double x1, double y1, double x2, double y2, Colour c
     Move_To(x2, y2);
 }
 
-void RecordingPicture::Line_To(double x, double y, Colour colour) {
-    Line(x_, y_, x, y, colour);
-}
-
 void RecordingPicture::Circle(double x, double y, double radius, Colour colour) {
     drawn.push_back({Drawn::Kind::Circle, x, y, radius, 0, colour});
     Move_To(x, y);
@@ -34,11 +30,6 @@ void RecordingPicture::Circle(double x, double y, double radius, Colour colour) 
 void RecordingPicture::Set_Point(double x, double y, Colour colour) {
     drawn.push_back({Drawn::Kind::Point, x, y, 0, 0, colour});
     Move_To(x, y);
-}
-
-void RecordingPicture::Move_To(double x, double y) {
-    x_ = x;
-    y_ = y;
 }
 
 }  // namespace kervol

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "core/picture.h"
+#include "core/pen_picture.h"
 
 namespace kervol {
 
@@ -19,22 +19,16 @@ struct Drawn {
     bool operator==(const Drawn&) const = default;
 };
 
-class RecordingPicture : public Picture {
+class RecordingPicture : public PenPicture {
   public:
     void Clear() override;
     void Set_Scale(double left, double top, double right, double bottom) override;
     void Set_Background(Colour colour) override;
     void Line(double x1, double y1, double x2, double y2, Colour colour) override;
-    void Line_To(double x, double y, Colour colour) override;
     void Circle(double x, double y, double radius, Colour colour) override;
     void Set_Point(double x, double y, Colour colour) override;
 
     std::vector<Drawn> drawn;
-
-  private:
-    void Move_To(double x, double y);
-
-    double x_ = 0, y_ = 0;
 };
 
 }  // namespace kervol

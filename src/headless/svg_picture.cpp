@@ -6,7 +6,6 @@
 #include <string_view>
 #include <unordered_set>
 
-#include "core/arithmetic.h"
 #include "core/markup_text.h"
 
 namespace kervol {
@@ -26,15 +25,15 @@ SvgPicture::SvgPicture(int side)
 
 void SvgPicture::Clear() {
     elements_.clear();
-    Move_To(0, 0);
+    Move_Pen(0, 0);
 }
 
 void SvgPicture::Set_Scale(double left, double top, double right, double bottom) {
     Check_Scale(left, top, right, bottom);
-    const bool same = Is_Same(left, window_.left) && Is_Same(top, window_.top) &&
-                      Is_Same(right, window_.right) && Is_Same(bottom, window_.bottom);
-    if (!same) Clear();
-    window_ = {left, top, right, bottom};
+    const WorldWindow window = {left, top, right, bottom};
+    if (window == window_) return;
+    window_ = window;
+    Clear();
 }
 
 void SvgPicture::Set_Background(Colour colour) {
@@ -42,31 +41,27 @@ void SvgPicture::Set_Background(Colour colour) {
 }
 
 void SvgPicture::Line(double x1, double y1, double x2, double y2, Colour colour) {
-    const bool goes_on = path_open_ && colour == path_colour_ && Is_Same(x1, x_) && Is_Same(y1, y_);
+    const bool goes_on = path_open_ && colour == path_colour_ && Stands_At(x1, y1);
     if (goes_on)
         elements_.back().resize(elements_.back().size() - kEnd.size());
     else
         elements_.push_back("<path stroke=\"" + Colour_Text(colour) + "\" d=\"M" + Position(x1, y1));
     elements_.back() += "L" + Position(x2, y2);
     elements_.back() += kEnd;
-    Move_To(x2, y2);
+    Move_Pen(x2, y2);
     path_open_ = true;
     path_colour_ = colour;
-}
-
-void SvgPicture::Line_To(double x, double y, Colour colour) {
-    Line(x_, y_, x, y, colour);
 }
 
 void SvgPicture::Circle(double x, double y, double radius, Colour colour) {
     const double pixels = std::abs(radius * side_ / (window_.right - window_.left));
     Put_Circle(x, y, pixels, "stroke", colour);
-    Move_To(x, y);
+    Move_Pen(x, y);
 }
 
 void SvgPicture::Set_Point(double x, double y, Colour colour) {
     Put_Circle(x, y, kDotRadius, "fill", colour);
-    Move_To(x, y);
+    Move_Pen(x, y);
 }
 
 std::string SvgPicture::Text() const {
@@ -107,9 +102,8 @@ std::string SvgPicture::Position(double x, double y) const {
     return Across(x) + " " + Down(y);
 }
 
-void SvgPicture::Move_To(double x, double y) {
-    x_ = x;
-    y_ = y;
+void SvgPicture::Move_Pen(double x, double y) {
+    Move_To(x, y);
     path_open_ = false;
 }
 

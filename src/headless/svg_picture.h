@@ -6,14 +6,14 @@
 #include <string_view>
 #include <vector>
 
-#include "core/picture.h"
+#include "core/pen_picture.h"
 
 namespace kervol {
 
 /// The file's view box is the square of its pixels, onto which the world window is mapped: its numbers keep
 /// the same precision whatever the model's unit of length. What was drawn twice stands once, where it was
 /// drawn last: painted over itself it would only get harder edges.
-class SvgPicture : public Picture {
+class SvgPicture : public PenPicture {
   public:
     /// Side in pixels, which is also the world window until a scale is set.
     explicit SvgPicture(int side = 600);
@@ -23,7 +23,6 @@ class SvgPicture : public Picture {
     void Set_Scale(double left, double top, double right, double bottom) override;
     void Set_Background(Colour colour) override;
     void Line(double x1, double y1, double x2, double y2, Colour colour) override;
-    void Line_To(double x, double y, Colour colour) override;
     /// In a window that is not square the radius counts along x.
     void Circle(double x, double y, double radius, Colour colour) override;
     /// A dot about as large as lines are wide.
@@ -33,22 +32,18 @@ class SvgPicture : public Picture {
     std::string Text() const;
 
   private:
-    struct Window {
-        double left, top, right, bottom;
-    };
-
     std::vector<std::string_view> Visible_Elements() const;
     void Put_Circle(double x, double y, double pixels, const char* paint, Colour colour);
     std::string Across(double x) const;
     std::string Down(double y) const;
     std::string Position(double x, double y) const;
-    void Move_To(double x, double y);
+    /// Ends the path too.
+    void Move_Pen(double x, double y);
 
     int side_;
-    Window window_;
+    WorldWindow window_;
     Colour background_;
     std::vector<std::string> elements_;
-    double x_ = 0, y_ = 0;
     bool path_open_ = false;  ///< the last element is a path that ends at the current point
     Colour path_colour_{};
 };

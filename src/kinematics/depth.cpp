@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/model_questions.h"
+
 namespace kervol {
 namespace {
 
@@ -20,8 +22,8 @@ constexpr double kLeastSine = 0.01;
 }  // namespace
 
 Depth Safe_Depth(const LinkageModel& model, Depth wanted) {
+    if (!Has_Stage2(model)) return Depth::All;
     const bool watt = model.LinkageType == "W";
-    if (!watt && model.LinkageType != "S") return Depth::All;
     // By these the closed form divides. The input line of a Stephenson chain changes with the position.
     const auto [shortest, longest_divisor] = std::minmax({model.Link2, model.Link3, model.Link4, model.Link5,
                                                           model.Link6, watt ? model.LinkO4D : model.Link5});

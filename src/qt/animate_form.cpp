@@ -77,15 +77,8 @@ QGroupBox* New_Range() {
     QGroupBox* group = New_Group("Range");
     auto* column = new QVBoxLayout(group);
     column->setContentsMargins(kGap, kRowGap, kGap, kGap);
-    auto* range = new QComboBox;
-    range->setObjectName("cmb_wait");
-    range->setEditable(true);
-    range->setInsertPolicy(QComboBox::NoInsert);
-    // Or 5 would become 50.
-    range->setCompleter(nullptr);
-    range->setAccessibleName("Range of the speed");
-    range->setToolTip("How long each position stands, in multiples: more is slower.");
-    column->addWidget(range);
+    column->addWidget(New_Number_Combo("cmb_wait", "Range of the speed",
+                                       "How long each position stands, in multiples: more is slower."));
     return group;
 }
 

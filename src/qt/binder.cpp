@@ -25,6 +25,7 @@
 #include "qt/look.h"
 #include "qt/pick_list.h"
 #include "qt/plot_kind_picture.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {
@@ -72,14 +73,6 @@ void Put_Items(QComboBox& box, const std::vector<std::string>& items) {
 
 }  // namespace
 
-QString Qt_Text(const std::string& text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QString Shown_Caption(const std::string& caption) {
-    return Qt_Text(caption).replace("\r\n", "\n").replace('\r', '\n');
-}
-
 Binder::Binder(QWidget& form, Runner run) : form_(form), run_(std::move(run)) {}
 
 template <class Widget>
@@ -108,7 +101,7 @@ void Binder::Add(const std::string& name, Label& label) {
     if (widget == nullptr) return;
     widget->setTextFormat(Qt::PlainText);
     Push_Later([this, widget, &label] {
-        const QString text = Shown_Caption(label.caption);
+        const QString text = Qt_Lines(label.caption);
         if (widget->text() != text) widget->setText(text);
         if (label.colour) Colour_Text(*widget, *label.colour);
         Push_Common(*widget, label);
@@ -126,7 +119,7 @@ void Binder::Add(const std::string& name, Button& button) {
         Act(button, button.click);
     });
     Push_Later([this, widget, &button] {
-        widget->setText(Shown_Caption(button.caption));
+        widget->setText(Qt_Lines(button.caption));
         Push_Common(*widget, button);
     });
 }
@@ -169,7 +162,7 @@ void Binder::Add(const std::string& name, Frame& frame) {
     auto* widget = Take<QWidget>(name);
     if (widget == nullptr) return;
     Push_Later([this, widget, &frame] {
-        if (auto* group = qobject_cast<QGroupBox*>(widget)) group->setTitle(Shown_Caption(frame.caption));
+        if (auto* group = qobject_cast<QGroupBox*>(widget)) group->setTitle(Qt_Lines(frame.caption));
         Push_Common(*widget, frame);
     });
 }
@@ -185,7 +178,7 @@ void Binder::Add(const std::string& name, CheckBox& box) {
     });
     Push_Later([this, widget, &box] {
         const QSignalBlocker quiet(widget);
-        widget->setText(Shown_Caption(box.caption));
+        widget->setText(Qt_Lines(box.caption));
         widget->setChecked(box.on);
         Push_Common(*widget, box);
     });
@@ -213,7 +206,7 @@ void Binder::Add_Options(const std::string& name, OptionButton* options, std::si
                                      [](const OptionButton& option) { return option.on; });
         for (std::size_t i = 0; i < widgets.size(); ++i) {
             const QSignalBlocker quiet(widgets[i]);
-            widgets[i]->setText(Shown_Caption(options[i].caption));
+            widgets[i]->setText(Qt_Lines(options[i].caption));
             widgets[i]->setChecked(options[i].on);
             // The tab key goes to the chosen one alone; the arrow keys lead to the others.
             widgets[i]->setFocusPolicy(options[i].on || !any ? Qt::StrongFocus : Qt::ClickFocus);
@@ -288,13 +281,12 @@ void Binder::Add(const std::string& name, Chart& chart) {
 void Binder::Add(const std::string& name, ComboBox& box) {
     // Searching by type would take every box of the toolkit for one of ours.
     auto* found = form_.findChild<QWidget*>(Qt_Text(name));
+    names_.insert(name);
     if (auto* list = dynamic_cast<PickList*>(found)) {
-        names_.insert(name);
         list->picked_twice = Picking(box, &ComboBox::double_click);
         return Push_List(*list, box);
     }
     if (auto* choice = dynamic_cast<ChoiceBox*>(found)) {
-        names_.insert(name);
         choice->typed = [&box](const std::string& text) { box.text = text; };
         return Push_List(*choice, box);
     }
@@ -332,7 +324,7 @@ void Binder::Add(const std::string& name, MenuItem& item) {
     if (action == nullptr) return;
     connect(action, &QAction::triggered, this, [this, &item] { Act(item, item.click); });
     Push_Later([this, action, &item] {
-        action->setText(Shown_Caption(item.caption));
+        action->setText(Qt_Lines(item.caption));
         if (action->isCheckable()) action->setChecked(item.checked);
         Push_Common(*action, item);
     });
@@ -365,7 +357,7 @@ void Binder::Leave_Field() {
 }
 
 void Binder::Set_Focus(std::string_view name) {
-    auto* widget = form_.findChild<QWidget*>(Qt_Text(std::string(name)));
+    auto* widget = form_.findChild<QWidget*>(Qt_Text(name));
     if (widget == nullptr) return;
     // What has just been enabled takes the focus only once it shows that.
     Push();

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
 #include <array>
 #include <functional>
 #include <set>
@@ -22,10 +21,6 @@ class QLineEdit;
 class QWidget;
 
 namespace kervol {
-
-/// A caption as a widget shows it: as it stands, with line breaks of either kind.
-QString Shown_Caption(const std::string& caption);
-QString Qt_Text(const std::string& text);
 
 class Binder : public QObject {
   public:

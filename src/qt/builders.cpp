@@ -2,6 +2,7 @@
 #include "qt/builders.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -82,6 +83,19 @@ QLineEdit* New_Number(const QString& name, const QString& accessible, const QStr
     return field;
 }
 
+QComboBox* New_Combo(const QString& name, const QString& accessible, const QString& tip) {
+    return Named(new QComboBox, name, accessible, tip);
+}
+
+QComboBox* New_Number_Combo(const QString& name, const QString& accessible, const QString& tip) {
+    QComboBox* combo = New_Combo(name, accessible, tip);
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    // Or 5 would become 50.
+    combo->setCompleter(nullptr);
+    return combo;
+}
+
 QLabel* New_Unit(const QString& name, const QString& widest) {
     QLabel* label = New_Label(name);
     label->setText(widest);
@@ -91,6 +105,12 @@ QLabel* New_Unit(const QString& name, const QString& widest) {
 
 QGroupBox* New_Group(const QString& title) {
     return new QGroupBox(title);
+}
+
+QGroupBox* New_Frame(const QString& name) {
+    QGroupBox* group = New_Group({});
+    group->setObjectName(name);
+    return group;
 }
 
 QGridLayout* New_Group_Grid(QGroupBox* group) {

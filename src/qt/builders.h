@@ -8,6 +8,7 @@
 
 class QBoxLayout;
 class QCheckBox;
+class QComboBox;
 class QGridLayout;
 class QGroupBox;
 class QHBoxLayout;
@@ -35,9 +36,15 @@ QCheckBox* New_Check(const QString& name, const QString& tip);
 QLineEdit* New_Text(const QString& name, const QString& accessible, const QString& tip);
 /// Right-aligned and of the one width of all number fields.
 QLineEdit* New_Number(const QString& name, const QString& accessible, const QString& tip);
+/// A list that drops down.
+QComboBox* New_Combo(const QString& name, const QString& accessible, const QString& tip);
+/// The same for numbers, which may also be typed.
+QComboBox* New_Number_Combo(const QString& name, const QString& accessible, const QString& tip);
 /// As wide as the longest unit of its column.
 QLabel* New_Unit(const QString& name, const QString& widest);
 QGroupBox* New_Group(const QString& title);
+/// A group whose title stands in its record.
+QGroupBox* New_Frame(const QString& name);
 /// Grid with the margins and gaps of a group.
 QGridLayout* New_Group_Grid(QGroupBox* group);
 

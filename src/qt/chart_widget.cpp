@@ -7,8 +7,8 @@
 
 #include "core/chart_values.h"
 #include "core/number_text.h"
-#include "qt/binder.h"
 #include "qt/picture_menu.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {

@@ -9,7 +9,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
-#include "qt/binder.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 

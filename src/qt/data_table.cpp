@@ -3,7 +3,7 @@
 
 #include <QHeaderView>
 
-#include "qt/binder.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 

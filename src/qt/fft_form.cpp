@@ -32,14 +32,8 @@ constexpr BoxRow kBoxes[] = {
      "How many harmonics are shown. At most half as many as there are data points.", true},
 };
 
-QGroupBox* New_Named_Group(const char* name) {
-    QGroupBox* group = New_Group({});
-    group->setObjectName(name);
-    return group;
-}
-
 QGroupBox* New_Function() {
-    QGroupBox* group = New_Named_Group("fra_Function1");
+    QGroupBox* group = New_Frame("fra_Function1");
     QGridLayout* grid = New_Group_Grid(group);
     int row = 0;
     for (const BoxRow& names : kBoxes) {
@@ -62,7 +56,7 @@ QGroupBox* New_Function() {
 
 QGroupBox* New_Checks(const char* name, const char* first, const char* first_tip, const char* second,
                       const char* second_tip) {
-    QGroupBox* group = New_Named_Group(name);
+    QGroupBox* group = New_Frame(name);
     Keep_Room(group);
     QGridLayout* grid = New_Group_Grid(group);
     int row = 0;

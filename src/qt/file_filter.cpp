@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/file_filter.h"
 
-#include "qt/binder.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {

@@ -24,14 +24,8 @@ QString Indexed(const char* name, int index) {
     return QString(name) + "_" + QString::number(index);
 }
 
-QGroupBox* New_Named_Group(const QString& name) {
-    QGroupBox* group = New_Group({});
-    group->setObjectName(name);
-    return group;
-}
-
 QGroupBox* New_Coefficient() {
-    QGroupBox* group = New_Named_Group("fra_Fluct");
+    QGroupBox* group = New_Frame("fra_Fluct");
     QGridLayout* grid = New_Group_Grid(group);
     QLineEdit* field = New_Number("txt_Fluct", "Coefficient of fluctuation",
                                   "Which share of the deviation from the mean torque the flywheel leaves: "
@@ -43,7 +37,7 @@ QGroupBox* New_Coefficient() {
 
 /// `first` and `second` are the indices of maximum and minimum.
 QGroupBox* New_Torques(const QString& name, int first, int second) {
-    QGroupBox* group = New_Named_Group(name);
+    QGroupBox* group = New_Frame(name);
     QGridLayout* grid = New_Group_Grid(group);
     int row = 0;
     for (const int index : {first, second}) {
@@ -59,7 +53,7 @@ QGroupBox* New_Torques(const QString& name, int first, int second) {
 }
 
 QGroupBox* New_Energies() {
-    QGroupBox* group = New_Named_Group("fra_Energy");
+    QGroupBox* group = New_Frame("fra_Energy");
     QGridLayout* grid = New_Group_Grid(group);
     QLabel* text = New_Label("pct_Pict1");
     text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));

@@ -8,12 +8,12 @@
 #include <QMenuBar>
 #include <QPushButton>
 
-#include "qt/binder.h"
 #include "qt/builders.h"
 #include "qt/elided_label.h"
 #include "qt/form_window.h"
 #include "qt/linkage_sketch.h"
 #include "qt/shared_key.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "core/fault.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {
@@ -40,7 +41,7 @@ PagePrinter::~PagePrinter() {
 
 /// A line that is too long for the page is drawn narrower.
 void PagePrinter::Print_Line(std::string_view line) {
-    const QString text = QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()));
+    const QString text = Qt_Text(line);
     const QFontMetricsF metrics(painter_.font(), printer_.get());
     const double room = painter_.viewport().width();
     painter_.save();

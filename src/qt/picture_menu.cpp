@@ -7,8 +7,8 @@
 #include <QPainter>
 #include <utility>
 
-#include "qt/binder.h"
 #include "qt/form_window.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {

@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <array>
 #include <cmath>
-#include <vector>
 
 #include "core/constants.h"
 

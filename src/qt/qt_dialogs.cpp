@@ -17,6 +17,7 @@
 
 #include "qt/file_filter.h"
 #include "qt/qt_port.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {
@@ -70,10 +71,6 @@ QMessageBox::Icon Qt_Icon(Icon icon) {
             return QMessageBox::Question;
     }
     return QMessageBox::NoIcon;
-}
-
-QString Text_Of_Box(const std::string& text) {
-    return Qt_Text(text).replace("\r\n", "\n").replace('\r', '\n');
 }
 
 /// A box breaks lines that are not very long once more; texts are broken where they should be.
@@ -144,7 +141,7 @@ Answer QtPort::Show_Message(const MessageBox& box) {
     QMessageBox shown(Front_Window());
     shown.setWindowTitle(Qt_Text(screens_->program.model.ProgramTitle));
     shown.setTextFormat(Qt::PlainText);
-    shown.setText(Text_Of_Box(box.text));
+    shown.setText(Qt_Lines(box.text));
     Keep_Lines(shown);
     shown.setIcon(Qt_Icon(box.icon));
     shown.setStandardButtons(Qt_Buttons(box.buttons));

@@ -5,6 +5,7 @@
 #include "core/report.h"
 #include "files/output_file.h"
 #include "qt/qt_port.h"
+#include "rendering/qt_text.h"
 #include "rendering/render.h"
 
 namespace kervol {

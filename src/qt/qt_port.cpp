@@ -5,13 +5,13 @@
 #include <QEventLoop>
 #include <QLineEdit>
 #include <QScreen>
-#include <stdexcept>
 #include <utility>
 
 #include "plots/plot_sheets.h"
 #include "qt/accessibility.h"
 #include "qt/picture_menu.h"
 #include "qt/wide_registers.h"
+#include "rendering/qt_text.h"
 #include "screens/control_lists.h"
 #include "screens/input_events.h"
 #include "screens/launch_screens.h"
@@ -196,7 +196,7 @@ QtPort::OpenForm& QtPort::Made_Form(ScreenId screen) {
     OpenForm& form = forms_.at(static_cast<std::size_t>(screen));
     if (form.binder != nullptr) return form;
     form.window = std::make_unique<FormWindow>();
-    form.window->setObjectName(Qt_Text(std::string(Screen_Name(screen))));
+    form.window->setObjectName(Qt_Text(Screen_Name(screen)));
     form.window->close_asked = [this, screen] { Close_By_User(screen); };
     form.window->save_picture = [this](const Sheet& sheet) { Run([&] { Save_Picture(sheet); }); };
     Lay_Out(screen, form);

@@ -13,6 +13,7 @@
 #include "core/fault.h"
 #include "qt/page_printer.h"
 #include "qt/qt_port.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {

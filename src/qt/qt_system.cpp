@@ -9,6 +9,7 @@
 
 #include "core/path_text.h"
 #include "qt/qt_port.h"
+#include "rendering/qt_text.h"
 
 #ifdef Q_OS_UNIX
 #include <pwd.h>

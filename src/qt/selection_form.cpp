@@ -39,12 +39,6 @@ QGroupBox* New_Options(QGroupBox* frame, const QString& group, std::initializer_
     return frame;
 }
 
-QGroupBox* New_Frame(const QString& name) {
-    QGroupBox* frame = New_Group({});
-    frame->setObjectName(name);
-    return frame;
-}
-
 PickList* New_List(const QString& name, const QString& accessible, const QString& tip, int rows) {
     auto* list = new PickList;
     list->setObjectName(name);
@@ -163,25 +157,13 @@ QHBoxLayout* New_Settings(const SelectionKind& kind, std::initializer_list<QGrou
     return row;
 }
 
-QComboBox* New_Combo(const QString& name, const QString& accessible, const QString& tip) {
-    auto* combo = new QComboBox;
-    combo->setObjectName(name);
-    combo->setAccessibleName(accessible);
-    combo->setToolTip(tip);
-    return combo;
-}
-
 QGroupBox* New_Rows() {
     QGroupBox* group = New_Group("Rows and Numbers");
     auto* column = new QFormLayout(group);
     column->setContentsMargins(kGap, kRowGap, kGap, kGap);
     column->setVerticalSpacing(kRowGap);
-    QComboBox* step = New_Combo("cmb_Step", "Steps from row to row", "Prints every n-th step of the sweep.");
-    step->setEditable(true);
-    step->setInsertPolicy(QComboBox::NoInsert);
-    // Or 5 would become 50.
-    step->setCompleter(nullptr);
-    column->addRow("Every n-th step", step);
+    column->addRow("Every n-th step", New_Number_Combo("cmb_Step", "Steps from row to row",
+                                                       "Prints every n-th step of the sweep."));
     column->addRow("Decimals", New_Combo("cmb_Decimal", "Decimals", "Decimals of each number."));
     return group;
 }

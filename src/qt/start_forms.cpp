@@ -7,10 +7,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "qt/binder.h"
 #include "qt/builders.h"
 #include "qt/form_window.h"
 #include "qt/linkage_sketch.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {

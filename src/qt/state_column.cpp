@@ -33,8 +33,7 @@ QGroupBox* New_Linkage() {
 }
 
 QGroupBox* New_Drive() {
-    QGroupBox* group = New_Group({});
-    group->setObjectName("frm_initial");
+    QGroupBox* group = New_Frame("frm_initial");
     QGridLayout* grid = New_Group_Grid(group);
     grid->setColumnStretch(0, 1);
     for (int i = 0; i < 6; ++i) {

@@ -8,6 +8,7 @@
 
 #include "rendering/chart_extent.h"
 #include "rendering/point_ticker.h"
+#include "rendering/qt_text.h"
 
 namespace kervol {
 namespace {
@@ -56,10 +57,6 @@ class Mask : public QCPLayerable {
             painter->fillRect(side, Ground(static_cast<const ChartPlot*>(parentPlot())->Look()));
     }
 };
-
-QString Text(const std::string& text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QPen Curve_Pen(const ChartSet& set, std::size_t index) {
     QPen pen(ChartPlot::Curve_Colour(index), set.ThickLines ? kThickPen : kPen);
@@ -206,7 +203,7 @@ void ChartPlot::Put_Titles() {
         auto* heading = new QCPLayoutGrid;
         QFont font = Sized_Font(look_.fonts[font_use::GraphTitle], kTitleSize);
         font.setBold(true);
-        auto* title = new QCPTextElement(this, Text(look_.GraphTitle), font);
+        auto* title = new QCPTextElement(this, Qt_Text(look_.GraphTitle), font);
         title->setTextColor(kInk);
         title->setLayer("legend");
         heading->addElement(0, 0, title);
@@ -239,9 +236,9 @@ void ChartPlot::Put_Axes() {
         axis->setLabelFont(Sized_Font(style, 1));
         axis->setTickLabelFont(Sized_Font(plain, 1));
     }
-    xAxis->setLabel(Text(look_.BottomTitle));
+    xAxis->setLabel(Qt_Text(look_.BottomTitle));
     QStringList labels;
-    for (const std::string& label : look_.LabelText) labels.append(Text(label));
+    for (const std::string& label : look_.LabelText) labels.append(Qt_Text(label));
     points_->Set_Labels(labels);
     points_->Set_Spacing(look_.TickEvery, look_.LabelEvery);
     xAxis->setSubTicks(look_.polar);
@@ -276,7 +273,7 @@ void ChartPlot::Put_Curve(std::size_t set) {
     const ChartSet& points = look_.sets[set];
     const QPen pen = Curve_Pen(points, set);
     QCPAbstractPlottable& shown = look_.polar ? Put_Polar(set, pen) : Put_Graph(set, pen);
-    shown.setName(Text(points.LegendText));
+    shown.setName(Qt_Text(points.LegendText));
     if (points.LegendText.empty()) shown.removeFromLegend();
 }
 
@@ -358,7 +355,7 @@ void ChartPlot::Fit(QSize size) {
     const QFontMetrics texts(legend->font());
     int widest = 1;
     for (const ChartSet& set : look_.sets)
-        if (Has_Entry(set)) widest = std::max(widest, texts.horizontalAdvance(Text(set.LegendText)));
+        if (Has_Entry(set)) widest = std::max(widest, texts.horizontalAdvance(Qt_Text(set.LegendText)));
     const int item =
         widest + kLegendIcon.width() + legend->iconTextPadding() + legend->columnSpacing() + kGap;
     legend->setWrap(std::max(1, (size.width() - 2 * kGap) / item));

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "rendering/chart_plot.h"
+#include "rendering/qt_text.h"
 #include "rendering/strokes.h"
 
 namespace kervol {
@@ -58,7 +59,7 @@ void Paint_Text(QPainter& painter, const SheetText& text) {
                                : text.side == TextSide::Centre ? Qt::AlignHCenter
                                                                : Qt::AlignRight;
     painter.drawText(Rect(text.box), static_cast<int>(side | Qt::AlignVCenter) | Qt::TextDontClip,
-                     QString::fromUtf8(text.text.data(), static_cast<qsizetype>(text.text.size())));
+                     Qt_Text(text.text));
 }
 
 /// Scaled from the page to the device. False where the device takes no painter.

@@ -2,11 +2,11 @@
 #include "report/report_curves.h"
 
 #include <cmath>
-#include <functional>
 #include <utility>
 
-#include "animation/link_shapes.h"
+#include "core/model_questions.h"
 #include "dynamics/joint_forces.h"
+#include "report/page_parts.h"
 
 namespace kervol {
 namespace {
@@ -104,7 +104,6 @@ std::vector<CurveGroup> Motion_Curves(const Program& program) {
 }
 
 std::vector<CurveGroup> Force_Curves(const Program& program, int solved_steps) {
-    static constexpr std::size_t kStage1Joints = 4;
     const LinkageModel& model = program.model;
     const ResultTables& tables = program.tables;
     std::vector<CurveGroup> groups;
@@ -119,10 +118,10 @@ std::vector<CurveGroup> Force_Curves(const Program& program, int solved_steps) {
     groups.push_back({ShakingForce,
                       model.UnitText(10),
                       {Magnitude(program, ShakingForce, tables.ForceTable, ShakingForceEntry)}});
-    groups.push_back({"Pin forces of Stage 1", model.UnitText(10), Joints(program, 0, kStage1Joints)});
+    groups.push_back({"Pin forces of Stage 1", model.UnitText(10), Joints(program, 0, Stage1Joints)});
     if (Has_Stage2(model))
         groups.push_back({"Pin forces of Stage 2", model.UnitText(10),
-                          Joints(program, kStage1Joints, JointForces.size() - kStage1Joints)});
+                          Joints(program, Stage1Joints, JointForces.size() - Stage1Joints)});
     for (CurveGroup& group : groups)
         for (Curve& curve : group.curves)
             for (std::size_t step = 0; step < curve.values.size(); ++step)
@@ -137,6 +136,20 @@ Abscissae Sweep_Abscissae(const Program& program) {
     for (int step = 0; step <= Last_Step(model); ++step)
         times.values.push_back(double(model.TimeStart) + step * double(model.TimeStep));
     return times;
+}
+
+std::string Group_Charts(const std::vector<CurveGroup>& groups, const Abscissae& abscissae) {
+    std::string text;
+    for (const CurveGroup& group : groups)
+        text += Element("figure", Chart_Svg({.title = group.title,
+                                             .x_label = abscissae.label,
+                                             .y_label = group.unit,
+                                             .abscissae = abscissae.values,
+                                             .curves = group.curves,
+                                             .kind = ChartKind::Lines,
+                                             .turns_x = abscissae.is_angle,
+                                             .turns_y = group.turns}));
+    return text;
 }
 
 std::optional<Extremes> Extremes_Of(const Curve& curve) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a report plots: groups of curves over the sweep, and their extremes.
+// What a report plots: groups of curves over the sweep, their charts and their extremes.
 #pragma once
 
 #include <optional>
@@ -36,6 +36,9 @@ struct Abscissae {
     std::vector<double> values;
 };
 Abscissae Sweep_Abscissae(const Program& program);
+
+/// A figure with a chart of lines for each group, as markup.
+std::string Group_Charts(const std::vector<CurveGroup>& groups, const Abscissae& abscissae);
 
 struct Extremes {
     double low, high;

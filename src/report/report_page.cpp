@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "animation/linkage_svg.h"
+#include "core/model_questions.h"
 #include "core/number_text.h"
 #include "core/report.h"
 #include "files/output_file.h"
@@ -181,24 +182,12 @@ class Page {
 
     std::string Plots() const {
         if (Last_Step(model_) < 1) return {};
-        std::string text = "<section><h2>Motion</h2><div class=\"columns\">\n" + Charts(motion_) + "</div>";
+        std::string text = "<section><h2>Motion</h2><div class=\"columns\">\n" +
+                           Group_Charts(motion_, abscissae_) + "</div>";
         if (!forces_.empty())
-            text += "<h2>Torque and forces</h2><div class=\"columns\">\n" + Charts(forces_) + "</div>";
+            text += "<h2>Torque and forces</h2><div class=\"columns\">\n" +
+                    Group_Charts(forces_, abscissae_) + "</div>";
         return text + "</section>\n";
-    }
-
-    std::string Charts(const std::vector<CurveGroup>& groups) const {
-        std::string text;
-        for (const CurveGroup& group : groups)
-            text += Element("figure", Chart_Svg({.title = group.title,
-                                                 .x_label = abscissae_.label,
-                                                 .y_label = group.unit,
-                                                 .abscissae = abscissae_.values,
-                                                 .curves = group.curves,
-                                                 .kind = ChartKind::Lines,
-                                                 .turns_x = abscissae_.is_angle,
-                                                 .turns_y = group.turns}));
-        return text;
     }
 
     std::string Extremes_Section() const {

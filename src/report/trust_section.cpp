@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "animation/link_shapes.h"
+#include "core/model_questions.h"
 #include "report/html_table.h"
 #include "report/page_parts.h"
 #include "selfcheck/deviation_texts.h"
@@ -107,16 +107,7 @@ std::string Trust_Section(const LinkageModel& model, const SelfCheck& check, con
     const std::vector<CurveGroup> groups = Deviating_Curves(model, check);
     // One position makes no curve.
     if (groups.empty() || Last_Step(model) < 1) return text + "</section>\n";
-    text += "<div class=\"columns\">\n";
-    for (const CurveGroup& group : groups)
-        text += Element("figure", Chart_Svg({.title = group.title,
-                                             .x_label = abscissae.label,
-                                             .y_label = group.unit,
-                                             .abscissae = abscissae.values,
-                                             .curves = group.curves,
-                                             .kind = ChartKind::Lines,
-                                             .turns_x = abscissae.is_angle}));
-    return text + "</div></section>\n";
+    return text + "<div class=\"columns\">\n" + Group_Charts(groups, abscissae) + "</div></section>\n";
 }
 
 std::string Trust_In_Short(const LinkageModel& model, const SelfCheck& check) {

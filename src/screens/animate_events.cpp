@@ -2,7 +2,6 @@
 #include "screens/animate_events.h"
 
 #include <cmath>
-#include <string>
 
 #include "animation/running.h"
 #include "core/arithmetic.h"
@@ -14,6 +13,7 @@
 #include "screens/home_screen.h"
 #include "screens/motion_fields.h"
 #include "screens/printing.h"
+#include "screens/wiring.h"
 
 namespace kervol {
 namespace {
@@ -209,9 +209,7 @@ void Animate_Form_Activate(Screens& screens) {
 
 void Wire_Animate_Screen(Screens& screens) {
     AnimateScreen& screen = screens.frm_Animate;
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     on(screen.cmd_Run.click, "frm_animate.cmd_Run_Click", cmd_Run_Click);
     on(screen.cmd_Step.click, "frm_animate.cmd_Step_Click", cmd_Step_Click);
     on(screen.cmd_Reset.click, "frm_animate.cmd_Reset_Click", cmd_Reset_Click);

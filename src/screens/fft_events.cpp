@@ -2,7 +2,6 @@
 #include "screens/fft_events.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 
 #include "catalogue/lists.h"
@@ -14,6 +13,7 @@
 #include "fourier/transform.h"
 #include "plots/chart_plots.h"
 #include "screens/printing.h"
+#include "screens/wiring.h"
 
 namespace kervol {
 namespace {
@@ -254,9 +254,7 @@ void FFT_Form_Activate(Screens& screens) {
 
 void Wire_FFT_Screen(Screens& screens) {
     FFTScreen& screen = screens.frm_FFT;
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     on(screen.cmb_Var1.click, "frm_FFT.cmb_Var1", cmb_Var1_Click);
     on(screen.cmb_Com1.click, "frm_FFT.cmb_Com1", cmb_Com1_Click);
     on(screen.cmb_Harmonics.click, "frm_FFT.cmb_Harmonics", cmb_Harmonics_Click);

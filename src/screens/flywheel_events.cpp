@@ -6,11 +6,11 @@
 #include "core/arithmetic.h"
 #include "core/header.h"
 #include "core/number_text.h"
-#include "core/report.h"
 #include "dynamics/crank_torque_areas.h"
 #include "plots/chart_plots.h"
 #include "screens/fields.h"
 #include "screens/printing.h"
+#include "screens/wiring.h"
 
 namespace kervol {
 namespace {
@@ -109,9 +109,7 @@ void Flywheel_Form_Activate(Screens& screens) {
 
 void Wire_Flywheel_Screen(Screens& screens) {
     FlywheelScreen& screen = screens.frm_Flywheel;
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     on(screen.cmd_Calc.click, "cmd_Calc_Click", cmd_Calc_Click);
     on(screen.cmd_Done.click, "frm_Flywheel.cmd_Done", cmd_Done_Click);
     on(screen.cmd_Cancel.click, "frm_Flywheel.cmd_Cancel",

@@ -4,6 +4,7 @@
 #include "catalogue/names.h"
 #include "core/geometry.h"
 #include "core/mathematics.h"
+#include "core/model_questions.h"
 #include "core/report.h"
 #include "kinematics/sweep.h"
 #include "screens/fields.h"
@@ -129,7 +130,7 @@ void Put_Input_Geometry(Screens& screens) {
         Put_Number(fields.at(Field_Delta5), model.Delta5Deg, kAngleCode);
         Put_Number(fields.at(Field_Ground), model.GroundAngleDeg, kAngleCode);
         Put_Length_Units(model, screen);
-        if (model.LinkageType == "W" || model.LinkageType == "S") {
+        if (Has_Stage2(model)) {
             screen.opt_SteveWatt[0].on = model.LinkageType == "W";
             screen.opt_SteveWatt[1].on = model.LinkageType == "S";
         }

@@ -20,6 +20,7 @@
 #include "screens/geometry_fields.h"
 #include "screens/launch_screens.h"
 #include "screens/motion_fields.h"
+#include "screens/wiring.h"
 #include "startup/launch.h"
 
 namespace kervol {
@@ -263,9 +264,7 @@ void Update_Home_Buttons(Screens& screens) {
 
 void Wire_Home_Screen(Screens& screens) {
     HomeScreen& home = screens.frm_HomeScreen;
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     const auto opens = [](ScreenId screen) {
         return [screen](Screens& all) { all.program.port.Show_Screen(screen, Modality::Modal); };
     };

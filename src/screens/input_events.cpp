@@ -6,7 +6,6 @@
 #include "animation/stepping.h"
 #include "core/arithmetic.h"
 #include "core/header.h"
-#include "core/report.h"
 #include "kinematics/step_count.h"
 #include "kinematics/sweep.h"
 #include "screens/fields.h"
@@ -14,6 +13,7 @@
 #include "screens/home_screen.h"
 #include "screens/motion_fields.h"
 #include "screens/printing.h"
+#include "screens/wiring.h"
 
 namespace kervol {
 namespace {
@@ -290,10 +290,7 @@ void Input_Form_Activate(Screens& screens) {
 
 void Wire_Input_Screen(Screens& screens) {
     InputScreen& screen = screens.frm_Inputnew;
-    // The name under which a fault is reported that no procedure below has met.
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     on(screen.cmd_Calc.click, "frm_Input.cmd_Calc", cmd_Calc_Click);
     on(screen.cmd_Draw.click, "frm_Input.cmd_Draw", cmd_Draw_Click);
     on(screen.cmd_Step.click, "frm_Input.cmd_Step", cmd_Step_Click);

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "core/arithmetic.h"
-#include "core/number_text.h"
 #include "core/report.h"
 #include "core/units.h"
 #include "screens/animate_events.h"
@@ -22,6 +21,7 @@
 #include "screens/print_select_events.h"
 #include "screens/selection_rules.h"
 #include "screens/self_check_events.h"
+#include "screens/wiring.h"
 #include "startup/launch.h"
 
 namespace kervol {
@@ -176,9 +176,7 @@ void Fill_Screens(Screens& screens) {
 }
 
 void Wire_Screens(Screens& screens) {
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     const auto hides = [](ScreenId screen) {
         return [screen](Screens& all) { all.program.port.Hide_Screen(screen); };
     };

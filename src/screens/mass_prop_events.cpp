@@ -11,6 +11,7 @@
 #include "screens/fields.h"
 #include "screens/home_screen.h"
 #include "screens/printing.h"
+#include "screens/wiring.h"
 
 namespace kervol {
 namespace {
@@ -181,9 +182,7 @@ void Mass_Prop_Form_Activate(Screens& screens) {
 
 void Wire_Mass_Prop_Screen(Screens& screens) {
     MassPropScreen& screen = screens.frm_MassProp;
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     on(screen.cmd_Solve.click, "cmd_solve_Click", cmd_Solve_Click);
     on(screen.cmd_Matrix.click, "frm_MassProp.cmd_Matrix_Click", cmd_Matrix_Click);
     on(screen.cmd_Done.click, "frm_MassProp.cmd_Done_Click", cmd_Done_Click);

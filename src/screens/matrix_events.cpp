@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/matrix_events.h"
 
-#include "core/report.h"
 #include "screens/printing.h"
+#include "screens/wiring.h"
 
 namespace kervol {
 namespace {
@@ -28,9 +28,7 @@ void Matrix_Form_Activate(Screens& screens) {
 
 void Wire_Matrix_Screen(Screens& screens) {
     MatrixScreen& screen = screens.frm_Matrix;
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     const auto hide = [](Screens& all) { all.program.port.Hide_Screen(ScreenId::frm_Matrix); };
     on(screen.cmd_Done.click, "frm_Matrix.cmd_Done_Click", hide);
     on(screen.cmd_Back.click, "frm_Matrix.cmd_Back_Click", hide);

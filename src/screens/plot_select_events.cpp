@@ -7,6 +7,7 @@
 #include "core/report.h"
 #include "screens/launch_screens.h"
 #include "screens/selection_rules.h"
+#include "screens/wiring.h"
 
 namespace kervol {
 namespace {
@@ -40,9 +41,7 @@ void Reopen_Plot_Type(Screens& screens, ScreenId from) {
 
 void Wire_Plot_Type_Screen(Screens& screens) {
     PlotTypeScreen& screen = screens.frm_PlotType;
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     on(screen.cmd_PickPlotDone.click, "frm_PlotType.cmd_PickPlotDone", cmd_PickPlotDone_Click);
     on(screen.cmd_CancelPickPlot.click, "frm_PlotType.cmd_CancelPickPlot",
        [](Screens& all) { all.program.port.Hide_Screen(ScreenId::frm_PlotType); });

@@ -15,6 +15,7 @@
 #include "files/output_file.h"
 #include "screens/printing.h"
 #include "screens/selection_rules.h"
+#include "screens/wiring.h"
 
 namespace kervol {
 namespace {
@@ -98,9 +99,7 @@ void Print_Select_Form_Activate(Screens& screens) {
 void Wire_Print_Select_Screens(Screens& screens) {
     PrintSelectScreen& form = screens.frm_PrintSelect;
     PrintDataScreen& data = screens.frm_PrintData;
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     Wire_Selection_Form(screens.program, form);
     on(form.cmd_Done.click, "frm_PrintSelect.cmd_Done", cmd_Done_Click);
     on(form.cmd_Cancel.click, "frm_PrintSelect.cmd_Cancel",

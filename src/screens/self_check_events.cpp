@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/self_check_events.h"
 
-#include "core/report.h"
+#include "screens/wiring.h"
 #include "selfcheck/self_check.h"
 #include "selfcheck/self_check_text.h"
 
@@ -16,9 +16,7 @@ void Self_Check_Form_Activate(Screens& screens) {
 
 void Wire_Self_Check_Screen(Screens& screens) {
     SelfCheckScreen& screen = screens.frm_SelfCheck;
-    const auto on = [&screens](Event& event, const char* name, auto handler) {
-        event = [&screens, name, handler] { Procedure(screens.program, name, [&] { handler(screens); }); };
-    };
+    const Wiring on(screens);
     on(screen.cmd_Back.click, "frm_SelfCheck.cmd_Back_Click",
        [](Screens& all) { all.program.port.Hide_Screen(ScreenId::frm_SelfCheck); });
     on(screen.cmd_Copy.click, "frm_SelfCheck.cmd_Copy_Click",

@@ -5,6 +5,7 @@
 
 #include "catalogue/catalogue_table.h"
 #include "catalogue/names.h"
+#include "core/model_questions.h"
 
 namespace kervol {
 namespace {
@@ -81,7 +82,7 @@ void Add_Functions(const LinkageModel& model, std::vector<Quantity>& list) {
             const int index = row.stage.value_or(*row.column);
             const bool of_forces = Is_Of_Forces(row, index);
             if (of_forces != (group == Forces)) continue;
-            if (!Chain_Has_Stage2(model) && (of_forces || Is_Of_Stage2(row, index))) continue;
+            if (!Has_Stage2(model) && (of_forces || Is_Of_Stage2(row, index))) continue;
             list.push_back({.name = names.CatalogName(number),
                             .unit = model.UnitText(row.code),
                             .group = group,
@@ -103,7 +104,7 @@ struct Joint {
 constexpr Joint kJoints[] = {{0, "A", "A"}, {1, "B", "B"}, {3, "D", "C"}, {4, "E", "D"}};
 
 void Add_Loops(const LinkageModel& model, std::vector<Quantity>& list) {
-    const bool both = Chain_Has_Stage2(model);
+    const bool both = Has_Stage2(model);
     for (int stage = 0; stage < (both ? 2 : 1); ++stage)
         list.push_back({.name = "Loop of Stage " + std::to_string(stage + 1) + " closes",
                         .unit = model.UnitText(6),
@@ -132,7 +133,7 @@ void Add_Loops(const LinkageModel& model, std::vector<Quantity>& list) {
 }
 
 void Add_Balance(const LinkageModel& model, std::vector<Quantity>& list) {
-    if (!Chain_Has_Stage2(model)) return;
+    if (!Has_Stage2(model)) return;
     for (const int link : {2, 3, 4, 5, 6, 0}) {
         const std::string on = link == 0 ? "the whole" : "link " + std::to_string(link);
         list.push_back({.name = "Forces on " + on,

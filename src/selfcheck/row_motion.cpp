@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/arithmetic.h"
+#include "core/model_questions.h"
 
 namespace kervol {
 namespace {
@@ -84,10 +85,6 @@ std::optional<Vec> Solve_Pair(double a11, double a12, double b1, double a21, dou
     return solution;
 }
 
-bool Chain_Has_Stage2(const LinkageModel& model) {
-    return model.LinkageType == "W" || model.LinkageType == "S";
-}
-
 Vec Local_O4(const LinkageModel& model) {
     return {model.Link1, 0};
 }
@@ -102,7 +99,7 @@ std::optional<RowMotion> Motion_Of_Row(const LinkageModel& model, const LinkAngl
     RowMotion row;
     row.link(2) = crank;
     if (!Put_Stage1(model, theta, row)) return std::nullopt;
-    if (Chain_Has_Stage2(model) && !Put_Stage2(model, theta, rules, row)) return std::nullopt;
+    if (Has_Stage2(model) && !Put_Stage2(model, theta, rules, row)) return std::nullopt;
     Put_Centres(model, theta, rules, row);
     return row;
 }

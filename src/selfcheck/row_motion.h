@@ -46,9 +46,6 @@ struct RowMotion {
     Table<Vec, 2> gap;
 };
 
-/// A chain that has a Stage 2.
-bool Chain_Has_Stage2(const LinkageModel& model);
-
 /// Pivots O4 and O6 as the stages use them.
 Vec Local_O4(const LinkageModel& model);
 Vec Local_O6(const LinkageModel& model);

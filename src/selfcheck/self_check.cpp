@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "core/arithmetic.h"
+#include "core/model_questions.h"
 #include "selfcheck/step_rounding.h"
 
 namespace kervol {
@@ -193,9 +194,9 @@ SelfCheck Check_Results(const LinkageModel& model, const ResultTables& tables, i
     SelfCheck result;
     Run run(model, result);
     CrankOfSteps crank(model, tables);
-    const int last = std::min<int>(model.NumSteps, MaxSteps);
+    const int last = Last_Step(model);
     for (int step = 0; step <= last; ++step) {
-        RowInput input = Tabulated_Row(model, tables, step, Chain_Has_Stage2(model) && step < solved_steps);
+        RowInput input = Tabulated_Row(model, tables, step, Has_Stage2(model) && step < solved_steps);
         crank.Put(step, input);
         // The last row of a range that its steps do not divide is calculated twice.
         input.was_cleared = model.CalcMode == 3 && step < last;
@@ -213,7 +214,7 @@ SelfCheck Check_Results(const LinkageModel& model, const ResultTables& tables, i
 int Steps_With_Forces(const LinkageModel& model, const ResultTables& tables) {
     if (!model.DynamicsCalculated) return 0;
     int step = 0;
-    const int last = std::min<int>(model.NumSteps, MaxSteps);
+    const int last = Last_Step(model);
     while (step <= last && tables.StepValid(step)) ++step;
     return step;
 }

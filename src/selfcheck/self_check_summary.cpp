@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/arithmetic.h"
+#include "core/model_questions.h"
 #include "selfcheck/deviation_texts.h"
 
 namespace kervol {
@@ -29,7 +30,7 @@ std::string Compared_Text(const LinkageModel& model, const SelfCheck& result) {
                 " left out at a dead centre, the first of them " + std::to_string(result.left_out.front());
     if (result.steps_with_forces > 0)
         return text + "; forces of " + Count_Text(result.steps_with_forces, "step") + ".";
-    if (!Chain_Has_Stage2(model)) return text + "; there are no forces without a Stage 2.";
+    if (!Has_Stage2(model)) return text + "; there are no forces without a Stage 2.";
     return text + "; forces are not solved, so only the motion is compared.";
 }
 

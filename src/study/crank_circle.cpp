@@ -8,6 +8,7 @@
 
 #include "core/arithmetic.h"
 #include "core/constants.h"
+#include "core/model_questions.h"
 #include "kinematics/stage1.h"
 #include "kinematics/stage2.h"
 
@@ -60,7 +61,7 @@ int Probe::Failing(int stages) const {
 
 CrankCircle::CrankCircle(const LinkageModel& model) : model_(model) {
     const bool watt = model.LinkageType == "W";
-    stages_ = watt || model.LinkageType == "S" ? 2 : 1;
+    stages_ = Has_Stage2(model) ? 2 : 1;
     model_.Omega2 = 1;
     model_.Alpha2 = 0;
     static_cast<void>(LoopConstants(model.Link2, model.Link3, model.Link4, model.Link1));

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <limits>
 
 #include "catalogue/catalogue_table.h"
@@ -158,19 +157,19 @@ Depth Measure::Needed_Depth() const {
     }
 }
 
-Extent Measure::Needed_Extent() const {
+Scope Measure::Needed_Scope() const {
     const CatalogueRow& row = Catalogue_Row(number_);
     switch (row.code) {
         case table_code::FlywheelTorque:
-            return Extent::Flywheel;
+            return Scope::Flywheel;
         case table_code::ForceTable:
         case table_code::TorqueTable:
-            return Extent::Forces;
+            return Scope::Forces;
         case table_code::PointVel:
         case table_code::PointAcc:
-            return row.column >= kFirstCG ? Extent::Forces : Extent::Motion;
+            return row.column >= kFirstCG ? Scope::Forces : Scope::Motion;
         default:
-            return Extent::Motion;
+            return Scope::Motion;
     }
 }
 

@@ -12,7 +12,7 @@
 namespace kervol {
 
 /// What has to be computed beside the motion.
-enum class Extent { Motion, Forces, Flywheel };
+enum class Scope { Motion, Forces, Flywheel };
 
 class Measure {
   public:
@@ -24,7 +24,7 @@ class Measure {
     const std::string& Text() const { return text_; }
     /// What the sweep has to yield.
     Depth Needed_Depth() const;
-    Extent Needed_Extent() const;
+    Scope Needed_Scope() const;
 
     /// The measure of the tables, steps 0 to `NumSteps`, in the unit of the function; of a dwell in degrees
     /// of the crank. Uses selection 1. `series` is a place to work in. Raises the faults of

@@ -50,7 +50,7 @@ StudySolver::StudySolver(const StudyPlan& plan, const Program& base, std::unique
     program_->tables = base.tables;
     for (const Measure& measure : plan.measures) {
         depth_ = std::max(depth_, measure.Needed_Depth());
-        extent_ = std::max(extent_, measure.Needed_Extent());
+        scope_ = std::max(scope_, measure.Needed_Scope());
     }
 }
 
@@ -62,7 +62,7 @@ StudyRow StudySolver::Solve(std::uint64_t number) {
         Set_Model(number);
         row.outcome = Calculate();
         row.steps = program_->model.NumSteps + 1;
-        if (row.outcome.empty() && extent_ != Extent::Motion) row.outcome = Add_Forces();
+        if (row.outcome.empty() && scope_ != Scope::Motion) row.outcome = Add_Forces();
         if (!row.outcome.empty()) return;
         for (const Measure& measure : plan_.measures) row.values.push_back(measure.Of(*program_, series_));
         row.outcome = "ok";
@@ -100,7 +100,7 @@ std::string StudySolver::Add_Forces() {
     const int solved = Run_Dynamics(*program_);
     if (program_->faults.entries.empty() && solved <= program_->model.NumSteps)
         return "no forces from step " + std::to_string(solved) + " on";
-    if (extent_ == Extent::Flywheel) {
+    if (scope_ == Scope::Flywheel) {
         FlywheelSizing sizing;
         Size_Flywheel(*program_, sizing);
     }

@@ -3,11 +3,9 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "core/program.h"
@@ -56,7 +54,7 @@ class StudySolver {
     std::unique_ptr<Port> port_;
     std::unique_ptr<Program> program_;
     Depth depth_ = Depth::Angles;
-    Extent extent_ = Extent::Motion;
+    Scope scope_ = Scope::Motion;
     std::vector<float> series_;
 };
 

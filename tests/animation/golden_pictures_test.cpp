@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whole pictures of the linkage.
 #include <cmath>
-#include <string>
 
 #include "animation/stepping.h"
 #include "headless/svg_picture.h"

@@ -61,11 +61,7 @@ TEST(CheckCommand, NamesTheDeviationsOfTheModel) {
 }
 
 TEST(CheckCommand, WritesToAFileOnRequest) {
-    const TemporaryFolder folder;
-    const CommandRun run = Batch({"check", "--example", "watt", "-o", folder / "report.txt"});
-    EXPECT_EQ(run.code, 0);
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(Content_Of(folder / "report.txt"), Batch({"check", "--example", "watt"}).out);
+    Expect_Same_In_File({"check", "--example", "watt"});
 }
 
 TEST(CheckCommand, ReportsAModelOfWhichSomeStepsDoNotAssemble) {

@@ -48,6 +48,17 @@ inline void Expect_One_Line(const std::string& err) {
     EXPECT_GT(err.size(), 25U) << err;
 }
 
+/// With "-o" the text goes to the file, and standard output stays empty.
+inline void Expect_Same_In_File(std::vector<std::string> arguments) {
+    const TemporaryFolder folder;
+    const std::string text = Batch(arguments).out;
+    arguments.insert(arguments.end(), {"-o", folder / "out.txt"});
+    const CommandRun run = Batch(arguments);
+    EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(Content_Of(folder / "out.txt"), text);
+}
+
 /// Writes a fresh model, changed by `edit`, to a file of the folder and returns its path.
 template <class Edit>
 std::string Model_File(const TemporaryFolder& folder, const std::string& name, const Edit& edit) {

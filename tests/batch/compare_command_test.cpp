@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Two models side by side.
 #include <cmath>
-#include <filesystem>
 #include <functional>
 #include <map>
 #include <sstream>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pictures from the command line: whole files of the size that was asked for, and clear words where there is
 // none.
-#include <algorithm>
 #include <filesystem>
 #include <string_view>
 

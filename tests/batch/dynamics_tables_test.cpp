@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Forces and flywheel in the JSON of the tables command: what is asked for, its numbers, how it ends.
-#include <cmath>
 
 #include "batch/command_run.h"
 #include "dynamics/crank_torque_areas.h"

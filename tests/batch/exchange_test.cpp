@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Driving one linkage by another, or by a cam, and handing motion and torque on.
-#include <cmath>
 #include <filesystem>
 #include <sstream>
 

@@ -62,11 +62,7 @@ TEST(LimitsCommand, GivesTheSameAsJson) {
 }
 
 TEST(LimitsCommand, WritesToTheNamedFile) {
-    const TemporaryFolder folder;
-    const CommandRun run = Batch({"limits", "--example", "watt", "-o", folder / "limits.txt"});
-    EXPECT_EQ(run.code, 0);
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(Content_Of(folder / "limits.txt"), Batch({"limits", "--example", "watt"}).out);
+    Expect_Same_In_File({"limits", "--example", "watt"});
 }
 
 TEST(LimitsCommand, OfALengthOfZeroIsExitCode2) {

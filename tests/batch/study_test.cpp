@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The command `study`: its numbers are those of `tables`, its shards join, its complaints are clear.
 #include <cmath>
-#include <map>
 
 #include "batch/command_run.h"
 #include "core/geometry.h"

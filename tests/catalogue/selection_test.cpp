@@ -2,8 +2,6 @@
 // Turning names into selection records: functions, components, the column that a frame turns with.
 #include "catalogue/selection.h"
 
-#include <string>
-
 #include "catalogue/expected_tables.h"
 #include "catalogue/names.h"
 #include "core/thrown_fault.h"

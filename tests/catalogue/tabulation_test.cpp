@@ -3,7 +3,6 @@
 #include "catalogue/tabulation.h"
 
 #include <algorithm>
-#include <sstream>
 #include <vector>
 
 #include "catalogue/table_fixture.h"

@@ -7,7 +7,6 @@
 #include <new>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "headless/recording_port.h"

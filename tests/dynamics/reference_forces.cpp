@@ -2,7 +2,6 @@
 #include "dynamics/reference_forces.h"
 
 #include <cmath>
-#include <cstddef>
 #include <cstring>
 
 namespace kervol {

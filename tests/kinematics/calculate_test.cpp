@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One solved position: what is stored where, which flags change, what is left alone.
-#include <algorithm>
 #include <array>
 #include <cmath>
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Positions that end in a numeric fault: one report, what was reached is stored, the sweep goes on.
-#include <cmath>
 #include <functional>
 
 #include "core/arithmetic.h"

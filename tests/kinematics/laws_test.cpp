@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 #include <complex>
-#include <cstring>
 #include <numeric>
 
 #include "kinematics/kinematics_fixture.h"

@@ -3,7 +3,6 @@
 #include "kinematics/step_count.h"
 
 #include <array>
-#include <cmath>
 
 #include "kinematics/assembly.h"
 #include "kinematics/kinematics_fixture.h"

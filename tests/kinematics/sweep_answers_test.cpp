@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How a sweep goes on over positions that cannot be assembled, by the user's answers.
-#include <array>
-#include <cmath>
 
 #include "kinematics/kinematics_fixture.h"
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The one position and the time-step drive: the crank state of each row.
 #include <array>
-#include <cmath>
 
 #include "kinematics/kinematics_fixture.h"
 

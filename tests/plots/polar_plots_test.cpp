@@ -2,8 +2,6 @@
 // Polar plots: rays and envelope at once and step by step.
 #include "plots/polar_plots.h"
 
-#include <cmath>
-
 #include "core/header.h"
 #include "plots/plot_fixture.h"
 

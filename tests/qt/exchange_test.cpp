@@ -9,7 +9,6 @@
 #include <QTemporaryDir>
 
 #include "qt/window_test.h"
-#include "screens/launch_screens.h"
 
 namespace kervol {
 namespace {

@@ -12,6 +12,7 @@
 #include "qt/chart_widget.h"
 #include "qt/picture_widget.h"
 #include "qt/window_test.h"
+#include "rendering/qt_text.h"
 #include "rendering/render.h"
 #include "support/temporary_folder.h"
 

@@ -5,7 +5,6 @@
 #include <QPushButton>
 #include <QWheelEvent>
 #include <cstdio>
-#include <cstdlib>
 
 #include "catalogue/names.h"
 #include "kinematics/examples.h"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Animation screen as it opens, its run, its single steps, and the ways to it and from it.
-#include "core/fault.h"
 #include "screens/launch_screens.h"
 #include "screens/screens_fixture.h"
 #include "support/compare.h"
@@ -364,26 +363,15 @@ TEST_F(AnimateWays, ClosingItsWindowIsItsNext) {
 }
 
 TEST_F(AnimateWays, PrintWarnsAndPrintsOnYesAlone) {
-    const char* const warning =
+    const char* const question =
         "Note: The image on this screen may not print correctly on some printers.\n"
         "You can also copy it to the clipboard and paste it in a document.\n"
         "Do you want to send it to the printer now anyway?";
-    port.answers = {Answer::No, Answer::Yes};
-    animate.cmd_Copy.click();
-    Expect_Box(warning, Icon::Exclamation, Buttons::YesNo);
-    EXPECT_THAT(port.printed, IsEmpty());
-    animate.cmd_Copy.click();
-    Expect_Box(warning, Icon::Exclamation, Buttons::YesNo);
-    EXPECT_THAT(port.printed, ElementsAre(ScreenId::frm_Animate));
+    Expect_Print_Asks(animate.cmd_Copy, ScreenId::frm_Animate, question);
 }
 
 TEST_F(AnimateWays, AFaultOfPrintingIsReportedUnderItsName) {
-    bool raised = false;
-    port.while_box = [&] {
-        if (raised) return;
-        raised = true;
-        Raise(fault::DeviceIO);
-    };
+    Break_Next_Box();
     animate.cmd_Copy.click();
     Expect_Fault(57, "frm_animate.cmd_Copy_Click");
     EXPECT_THAT(port.printed, IsEmpty());

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The Fourier screen: its lists and checks, what runs the transform, what its graphs are given, and what is
-// left when it closes.
+// The Fourier screen: its choice of a function, what runs the transform, what its graphs are given, and what
+// is left when it closes.
 #include "catalogue/lists.h"
 #include "catalogue/table_rows.h"
 #include "core/header.h"
+#include "screens/fft_fixture.h"
 #include "screens/launch_screens.h"
-#include "screens/screens_fixture.h"
 #include "support/compare.h"
 
 #include <gmock/gmock.h>
@@ -16,53 +16,6 @@ namespace {
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::Not;
-
-constexpr const char* kTooMany =
-    "Number of harmonics cannot exceed 1/2 the number of data points available.\r"
-    "If you want more bandwidth, recalculate all data with smaller increments. \r"
-    "Use the [INPUT] button from the Home Screen to do so.";
-constexpr const char* kNoHarmonics = " Must set the number of harmonics to a value > 0";
-constexpr const char* kNoFunction = " Please select a function for FFT calculation";
-
-class FFTScreenTest : public ScreensTest {
-  protected:
-    FFTScreenTest() {
-        // 36 steps of 10 degrees.
-        Calculate_In_Mode(3);
-        port.trace.clear();
-    }
-
-    void Open() { port.Show_Screen(ScreenId::frm_FFT, Modality::Modal); }
-    /// Opens for a sweep of that many steps.
-    void Open_With(int steps) {
-        model.NumSteps = static_cast<std::int16_t>(steps);
-        Open();
-    }
-    static void Pick(ComboBox& box, const char* text) {
-        box.text = text;
-        box.click();
-    }
-    void Open_And_Transform(const char* function = "Theta3") {
-        Open();
-        Pick(screen.cmb_Var1, function);
-    }
-    bool Table_Is_Clear() const {
-        for (int row = 0; row <= 512; ++row)
-            for (int column = 0; column <= 3; ++column)
-                if (tables.FFTTable(row, column) < 0 || tables.FFTTable(row, column) > 0) return false;
-        return true;
-    }
-    std::string Buttons_On() const {
-        std::string on;
-        if (screen.cmd_Done.enabled) on += "Next ";
-        if (screen.cmd_Print.enabled) on += "Print ";
-        if (screen.cmd_Copy.enabled) on += "Copy";
-        return on;
-    }
-
-    FFTScreen& screen = screens->frm_FFT;
-    FourierState& fourier = program->fourier;
-};
 
 TEST_F(FFTScreenTest, HasItsTexts) {
     EXPECT_EQ(Screen_Caption(*screens, ScreenId::frm_FFT),
@@ -124,22 +77,6 @@ TEST_F(FFTScreenTest, OpensWithoutAChoiceAndWithoutATransform) {
     EXPECT_EQ(tables.FFTTable(37, 0), Poison) << "rows to the number of steps are cleared";
     EXPECT_EQ(fourier.FFTWork(36, 0), 0);
     EXPECT_EQ(fourier.FFTWork(37, 0), 1);
-}
-
-TEST_F(FFTScreenTest, OffersHalfTheStepsAndItsDivisorsDownTo3) {
-    Open_With(36);
-    EXPECT_THAT(screen.cmb_Harmonics.items, ElementsAre("18", "9", "6", "3"));
-    EXPECT_EQ(screen.cmb_Harmonics.text, "18");
-    Open_With(7);
-    EXPECT_THAT(screen.cmb_Harmonics.items, ElementsAre("4")) << "3.5 to the even 4, and 4 / 2 is below 3";
-    Open_With(5);
-    EXPECT_THAT(screen.cmb_Harmonics.items, ElementsAre("2")) << "2.5 to the even 2";
-    Open_With(360);
-    EXPECT_THAT(screen.cmb_Harmonics.items, ElementsAre("180", "90", "60", "45", "36", "30", "20", "18", "15",
-                                                        "12", "10", "9", "6", "5", "4", "3"));
-    Open_With(1);
-    EXPECT_THAT(screen.cmb_Harmonics.items, ElementsAre("0"));
-    EXPECT_EQ(fourier.NumHarmonics, 0);
 }
 
 TEST_F(FFTScreenTest, APickOfAFunctionTransformsIt) {
@@ -208,90 +145,6 @@ TEST_F(FFTScreenTest, TheBoxesOfGridAndStyleChangeTheGraphsAtOnce) {
     EXPECT_EQ(styles(), std::pair(std::int16_t{2}, std::int16_t{2}));
 }
 
-TEST_F(FFTScreenTest, FewerHarmonicsGiveFewerPointsAndTicks) {
-    Open_And_Transform();
-    Pick(screen.cmb_Harmonics, "6");
-    EXPECT_EQ(fourier.NumHarmonics, 6);
-    EXPECT_EQ(screen.MaxTicks, 6);
-    EXPECT_EQ(screen.grf_Plot[2].NumPoints(), 7);
-    EXPECT_EQ(screen.grf_Plot[2].look.TickEvery, 1);
-    EXPECT_EQ(screen.grf_Plot[2].look.LabelEvery, 2);
-    EXPECT_TRUE(fourier.FFTReady);
-}
-
-TEST_F(FFTScreenTest, TicksStandAFifteenthOfTheHarmonicsApart) {
-    model.ThetaStepDeg = 1;
-    Calculate_In_Mode(3);
-    ASSERT_EQ(model.NumSteps, 360);
-    Open_And_Transform();
-    EXPECT_EQ(screen.grf_Plot[0].look.TickEvery, 12);
-    EXPECT_EQ(screen.grf_Plot[0].look.LabelEvery, 24);
-    // 20 / 15 is 1.33, twice that 2.67.
-    Pick(screen.cmb_Harmonics, "20");
-    EXPECT_EQ(screen.grf_Plot[0].look.TickEvery, 1);
-    EXPECT_EQ(screen.grf_Plot[0].look.LabelEvery, 3);
-}
-
-TEST_F(FFTScreenTest, MoreHarmonicsThanHalfTheStepsAreRefused) {
-    Open_And_Transform();
-    Pick(screen.cmb_Harmonics, "40");
-    Expect_Box(kTooMany, Icon::None);
-    EXPECT_EQ(fourier.NumHarmonics, 18);
-    EXPECT_EQ(screen.cmb_Harmonics.text, "18");
-    EXPECT_EQ(screen.grf_Plot[0].NumPoints(), 19);
-    for (int row = 18; row <= 512; ++row)
-        for (int column = 0; column <= 3; ++column) EXPECT_EQ(tables.FFTTable(row, column), 0);
-}
-
-TEST_F(FFTScreenTest, TheCalculateButtonTakesMoreHarmonicsAndShowsZeroesBehindTheTable) {
-    Open_And_Transform();
-    screen.cmb_Harmonics.text = "40";
-    screen.cmd_Calc.click();
-    EXPECT_EQ(fourier.NumHarmonics, 40);
-    ASSERT_EQ(screen.grf_Plot[2].NumPoints(), 41);
-    EXPECT_EQ(screen.grf_Plot[2].look.sets[0].GraphData[40], 0);
-    screen.cmb_Harmonics.text = "600";
-    screen.cmd_Calc.click();
-    EXPECT_EQ(screen.grf_Plot[2].NumPoints(), 513) << "the table ends there";
-}
-
-TEST_F(FFTScreenTest, ASweepAbove512StepsIsNoFailure) {
-    model.ThetaStepDeg = 0.3515625F;
-    Calculate_In_Mode(3);
-    ASSERT_EQ(model.NumSteps, 1024);
-    tables.FFTTable.Fill(Poison);
-    Open();
-    EXPECT_TRUE(Table_Is_Clear());
-    EXPECT_EQ(fourier.NumHarmonics, 512);
-    Pick(screen.cmb_Var1, "Theta3");
-    EXPECT_EQ(fourier.FFTHalf, 512);
-    EXPECT_EQ(screen.grf_Plot[2].NumPoints(), 513);
-    screen.cmd_Clear1.click();
-    EXPECT_TRUE(Table_Is_Clear());
-}
-
-TEST_F(FFTScreenTest, NoHarmonicsAreRefused) {
-    for (const char* text : {"0", "", "x", "-3", "0.4"}) {
-        Open();
-        screen.cmb_Harmonics.text = text;
-        port.trace.clear();
-        screen.cmb_Harmonics.click();
-        Expect_Box(kNoHarmonics, Icon::Exclamation);
-        EXPECT_THAT(port.trace, ElementsAre("box", "focus frm_FFT.cmb_Harmonics"));
-        EXPECT_EQ(port.pointer, Pointer::Default);
-    }
-}
-
-TEST_F(FFTScreenTest, NoHarmonicsEmptyTheFunctionWhereItIsCalculated) {
-    Open();
-    screen.cmb_Harmonics.text = "0";
-    Pick(screen.cmb_Var1, "Theta3");
-    Expect_Box(kNoHarmonics, Icon::Exclamation);
-    EXPECT_EQ(screen.cmb_Var1.text, "");
-    EXPECT_FALSE(fourier.FFTReady);
-    EXPECT_EQ(Buttons_On(), "");
-}
-
 TEST_F(FFTScreenTest, ATransformIsTitledByWhatItsFieldShows) {
     Open_And_Transform("Theta3");
     EXPECT_EQ(Transform_Title(*program), "Fourier Transform of  Theta3");
@@ -306,15 +159,6 @@ TEST_F(FFTScreenTest, ATransformIsTitledByWhatItsFieldShows) {
     screen.cmd_Clear1.click();
     Pick(screen.cmb_Com1, "X");
     EXPECT_EQ(Transform_Title(*program), "Fourier Transform of  ");
-}
-
-TEST_F(FFTScreenTest, HarmonicsWithoutAFunctionAskForOne) {
-    Open();
-    port.trace.clear();
-    Pick(screen.cmb_Harmonics, "9");
-    Expect_Box(kNoFunction, Icon::Question);
-    EXPECT_THAT(port.trace, ElementsAre("box", "focus frm_FFT.cmb_Var1"));
-    EXPECT_EQ(fourier.NumHarmonics, 9);
 }
 
 TEST_F(FFTScreenTest, EnterOnAnEmptyFunctionAsksForOneAndClearsTheTable) {
@@ -417,24 +261,6 @@ TEST_F(FFTScreenTest, CopySaysHowAndCopies) {
     Open_And_Transform();
     screen.cmd_Copy.click();
     Expect_Box("Use the Alt-PrintScrn key combo to copy the screen to the clipboard", Icon::Information);
-}
-
-TEST_F(FFTScreenTest, HarmonicsOfOneStepCannotBeDrawn) {
-    Open_With(1);
-    screen.cmb_Harmonics.text = "1";
-    Pick(screen.cmb_Var1, "Theta3");
-    EXPECT_TRUE(fourier.FFTReady);
-    screen.cmb_Harmonics.click();
-    Expect_Box(kTooMany, Icon::None);
-    Expect_Fault(11, "FFT_Plot_Setup");
-    EXPECT_EQ(fourier.NumHarmonics, 0);
-}
-
-TEST_F(FFTScreenTest, ANumberOfHarmonicsBeyondAllBoundsIsAFault) {
-    Open_And_Transform();
-    Pick(screen.cmb_Harmonics, "99999");
-    Expect_Fault(6, "frm_FFT.cmb_Harmonics");
-    EXPECT_EQ(fourier.NumHarmonics, 18);
 }
 
 }  // namespace

@@ -255,18 +255,7 @@ TEST_F(LeavingInput, BackTakesNothing) {
 }
 
 TEST_F(LeavingInput, PrintWarnsAndPrintsOnYesAlone) {
-    const char* const warning =
-        "You can print this form directly to a printer from here.\n"
-        "Note: The image on this screen may not print correctly on some printers.\n"
-        "You can also copy it to the clipboard and paste it in a document.\n"
-        "Do you want to send it to the printer now anyway?";
-    port.answers = {Answer::No, Answer::Yes};
-    input.cmd_Print.click();
-    Expect_Box(warning, Icon::Exclamation, Buttons::YesNo);
-    EXPECT_THAT(port.printed, IsEmpty());
-    input.cmd_Print.click();
-    Expect_Box(warning, Icon::Exclamation, Buttons::YesNo);
-    EXPECT_THAT(port.printed, ElementsAre(ScreenId::frm_Inputnew));
+    Expect_Print_Asks(input.cmd_Print, ScreenId::frm_Inputnew);
 }
 
 }  // namespace

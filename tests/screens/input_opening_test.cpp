@@ -2,7 +2,6 @@
 // The Input screen as it opens, and the events of its fields.
 #include <limits>
 
-#include "screens/input_events.h"
 #include "screens/screens_fixture.h"
 
 #include <gmock/gmock.h>

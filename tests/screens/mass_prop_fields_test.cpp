@@ -6,7 +6,6 @@
 #include "core/fault.h"
 #include "core/units.h"
 #include "files/model_file.h"
-#include "screens/launch_screens.h"
 #include "screens/mass_prop_fixture.h"
 #include "support/compare.h"
 #include "support/temporary_folder.h"

@@ -169,27 +169,11 @@ TEST_F(MassPropButtons, CopyPutsTheImageOnTheClipboardAndSaysHow) {
 }
 
 TEST_F(MassPropButtons, PrintWarnsAndPrintsOnYesAlone) {
-    const char* const warning =
-        "You can print this form directly to a printer from here.\n"
-        "Note: The image on this screen may not print correctly on some printers.\n"
-        "You can also copy it to the clipboard and paste it in a document.\n"
-        "Do you want to send it to the printer now anyway?";
-    port.answers = {Answer::No, Answer::Yes};
-    screen.cmd_Print.click();
-    Expect_Box(warning, Icon::Exclamation, Buttons::YesNo);
-    EXPECT_THAT(port.printed, IsEmpty());
-    screen.cmd_Print.click();
-    Expect_Box(warning, Icon::Exclamation, Buttons::YesNo);
-    EXPECT_THAT(port.printed, ElementsAre(ScreenId::frm_MassProp));
+    Expect_Print_Asks(screen.cmd_Print, ScreenId::frm_MassProp);
 }
 
 TEST_F(MassPropButtons, AFaultOfPrintingIsReportedUnderTheNameOfThePlots) {
-    bool raised = false;
-    port.while_box = [&] {
-        if (raised) return;
-        raised = true;
-        Raise(fault::DeviceIO);
-    };
+    Break_Next_Box();
     screen.cmd_Print.click();
     Expect_Fault(57, "frm_Plot1.PrintForm");
 }

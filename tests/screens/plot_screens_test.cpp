@@ -14,15 +14,8 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::IsSupersetOf;
 using ::testing::Not;
-
-constexpr const char* kWarning =
-    "You can print this form directly to a printer from here.\n"
-    "Note: The image on this screen may not print correctly on some printers.\n"
-    "You can also copy it to the clipboard and paste it in a document.\n"
-    "Do you want to send it to the printer now anyway?";
 
 class PlotScreens : public PlotScreensTest {
   protected:
@@ -120,17 +113,7 @@ TEST_F(PlotScreens, CopyPutsTheScreenOnTheClipboardAndNamesTheKeys) {
 }
 
 TEST_F(PlotScreens, ArePrintedAsTheyStandAfterTheWarning) {
-    for (PlotButtons* form : All_Plots()) {
-        port.printed.clear();
-        port.answers = {Answer::No};
-        form->cmd_PlotPrint.click();
-        Expect_Box(kWarning, Icon::Exclamation, Buttons::YesNo);
-        EXPECT_THAT(port.printed, IsEmpty());
-        port.answers = {Answer::Yes};
-        form->cmd_PlotPrint.click();
-        Expect_Box(kWarning, Icon::Exclamation, Buttons::YesNo);
-        EXPECT_THAT(port.printed, ElementsAre(form->kind.screen));
-    }
+    for (PlotButtons* form : All_Plots()) Expect_Print_Asks(form->cmd_PlotPrint, form->kind.screen);
 }
 
 TEST_F(PlotScreens, APrintThatFailsIsReportedByNamesOfWhichTwoAreThoseOfCharts) {
@@ -143,7 +126,7 @@ TEST_F(PlotScreens, APrintThatFailsIsReportedByNamesOfWhichTwoAreThoseOfCharts) 
     for (PlotButtons* form : All_Plots()) {
         port.answers = {Answer::Yes};
         form->cmd_PlotPrint.click();
-        Expect_Box(kWarning, Icon::Exclamation, Buttons::YesNo);
+        Expect_Box(kPrintQuestion, Icon::Exclamation, Buttons::YesNo);
         Expect_Fault(57, reported.at(Name(form)));
     }
 }

@@ -225,19 +225,7 @@ TEST_F(PrintSelect, BackFromTheTableMakesTheListsLoadAgain) {
 }
 
 TEST_F(PrintSelect, TheTableIsPrintedAsItStandsAfterTheWarning) {
-    constexpr const char* kWarning =
-        "You can print this form directly to a printer from here.\n"
-        "Note: The image on this screen may not print correctly on some printers.\n"
-        "You can also copy it to the clipboard and paste it in a document.\n"
-        "Do you want to send it to the printer now anyway?";
-    port.answers = {Answer::No};
-    data.cmd_PrintForm.click();
-    Expect_Box(kWarning, Icon::Exclamation, Buttons::YesNo);
-    EXPECT_THAT(port.printed, IsEmpty());
-    port.answers = {Answer::Yes};
-    data.cmd_PrintForm.click();
-    Expect_Box(kWarning, Icon::Exclamation, Buttons::YesNo);
-    EXPECT_THAT(port.printed, ElementsAre(ScreenId::frm_PrintData));
+    Expect_Print_Asks(data.cmd_PrintForm, ScreenId::frm_PrintData);
 }
 
 TEST_F(PrintSelect, CopyPutsTheScreenOnTheClipboardAndNamesTheKeys) {

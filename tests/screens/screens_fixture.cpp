@@ -2,6 +2,7 @@
 #include "screens/screens_fixture.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/arithmetic.h"
 #include "core/fault.h"
@@ -81,7 +82,8 @@ std::unique_ptr<Printer> ScreenPort::Ask_Printer() {
 }
 
 ScreensTest::ScreensTest()
-    : program(std::make_unique<Program>(port)),
+    : BoxTest(port),
+      program(std::make_unique<Program>(port)),
       screens(std::make_unique<Screens>(*program)),
       model(program->model),
       tables(program->tables),
@@ -98,31 +100,27 @@ ScreensTest::ScreensTest()
 }
 
 void ScreensTest::TearDown() {
-    while (Boxes_Left() > 0) ADD_FAILURE() << "A box that the test did not expect: " << Take_Box().text;
+    BoxTest::TearDown();
     EXPECT_TRUE(port.answers.empty()) << "an answer that no box asked for";
     EXPECT_TRUE(port.files.empty()) << "a file name that no dialog asked for";
 }
 
-void ScreensTest::Expect_Box(std::string_view text, Icon icon, Buttons buttons) {
-    const MessageBox box = Take_Box();
-    EXPECT_EQ(box.text, text);
-    EXPECT_EQ(box.icon, icon);
-    EXPECT_EQ(box.buttons, buttons);
+void ScreensTest::Expect_Print_Asks(const Button& print, ScreenId screen, std::string_view question) {
+    port.printed.clear();
+    port.answers = {Answer::No};
+    print.click();
+    Expect_Box(question, Icon::Exclamation, Buttons::YesNo);
+    EXPECT_TRUE(port.printed.empty());
+    port.answers = {Answer::Yes};
+    print.click();
+    Expect_Box(question, Icon::Exclamation, Buttons::YesNo);
+    EXPECT_EQ(port.printed, std::vector{screen});
 }
 
-void ScreensTest::Expect_Fault(std::int32_t number, std::string_view procedure) {
-    const std::string heading = "Error " + std::to_string(number) + "   (" +
-                                std::string(Fault_Description(number)) + ")  has occurred in " +
-                                std::string(procedure) + "\r\r";
-    const MessageBox box = Take_Box();
-    EXPECT_EQ(box.text.substr(0, heading.size()), heading);
-    EXPECT_EQ(box.buttons, Buttons::OK);
-}
-
-MessageBox ScreensTest::Take_Box() {
-    if (Boxes_Left() > 0) return port.messages[taken_++].box;
-    ADD_FAILURE() << "A box that the test expected was not shown";
-    return {};
+void ScreensTest::Break_Next_Box() {
+    port.while_box = [broken = true]() mutable {
+        if (std::exchange(broken, false)) Raise(fault::DeviceIO);
+    };
 }
 
 void ScreensTest::Open_Input_In_Mode(std::int16_t mode) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Fixture of tests that use the screens as a person does, over records: a fresh program, its screens wired, a
-// recording port that opens screens as a toolkit would. A box that no test expected fails it.
+// recording port that opens screens as a toolkit would.
 #pragma once
 
 #include <deque>
@@ -16,8 +16,7 @@
 #include "headless/recording_picture.h"
 #include "headless/recording_port.h"
 #include "screens/screens.h"
-
-#include <gtest/gtest.h>
+#include "support/box_test.h"
 
 namespace kervol {
 
@@ -49,20 +48,23 @@ class ScreenPort : public RecordingPort {
     bool printer_breaks = false;                        ///< printing is fault 57
 };
 
-class ScreensTest : public ::testing::Test {
+class ScreensTest : public BoxTest {
   protected:
     /// As a run without a file stands on the Home screen.
     ScreensTest();
     void TearDown() override;
 
-    /// The next box that was shown must be this one.
-    void Expect_Box(std::string_view text, Icon icon, Buttons buttons = Buttons::OK);
     /// A refused entry: the next box must be this warning.
     void Expect_Warning(std::string_view text) { Expect_Box(text, Icon::Exclamation); }
-    /// The next box must report this fault; only the heading is compared.
-    void Expect_Fault(std::int32_t number, std::string_view procedure);
-    MessageBox Take_Box();
-    std::size_t Boxes_Left() const { return port.messages.size() - taken_; }
+    static constexpr const char* kPrintQuestion =
+        "You can print this form directly to a printer from here.\n"
+        "Note: The image on this screen may not print correctly on some printers.\n"
+        "You can also copy it to the clipboard and paste it in a document.\n"
+        "Do you want to send it to the printer now anyway?";
+    /// The button asks, and prints the screen on Yes alone.
+    void Expect_Print_Asks(const Button& print, ScreenId screen, std::string_view question = kPrintQuestion);
+    /// Showing the next box is fault 57.
+    void Break_Next_Box();
 
     void Open_Input() { port.Show_Screen(ScreenId::frm_Inputnew, Modality::Modal); }
     /// Opens the Input screen in a mode of the drive.
@@ -129,8 +131,6 @@ class ScreensTest : public ::testing::Test {
 
   private:
     static void Add_If_On(std::string& names, const Button& button, const char* name);
-
-    std::size_t taken_ = 0;
 };
 
 }  // namespace kervol

@@ -2,7 +2,6 @@
 // Program values, a fresh model, and the model that the command line names.
 #include "startup/launch.h"
 
-#include <filesystem>
 #include <memory>
 
 #include "core/model_fields.h"

@@ -9,7 +9,6 @@
 
 #include "kinematics/stage1.h"
 #include "kinematics/stage2.h"
-#include "kinematics/sweep.h"
 #include "support/program_test.h"
 #include "support/random_linkage.h"
 

@@ -69,25 +69,25 @@ TEST_F(MeasureTest, KnowsWhatItNeeds) {
     const struct {
         const char* text;
         Depth depth;
-        Extent extent;
+        Scope scope;
     } cases[] = {
-        {"max(Theta6)", Depth::Angles, Extent::Motion},
-        {"max(\"Trans Ang-2\")", Depth::Angles, Extent::Motion},
-        {"max(Omega3)", Depth::Speeds, Extent::Motion},
-        {"max(V-Ratio-2)", Depth::Speeds, Extent::Motion},
-        {"max(MchAdv-1)", Depth::Speeds, Extent::Motion},
-        {"max(Alpha3)", Depth::All, Extent::Motion},
-        {"max(\"Cpler Pt-1\":X)", Depth::All, Extent::Motion},
-        {"max(\"Veloc CP-2\":Mag)", Depth::All, Extent::Motion},
-        {"max(\"Accel CG 2\":Mag)", Depth::All, Extent::Forces},
-        {"max(\"Veloc CG 6\":Mag)", Depth::All, Extent::Forces},
-        {"peak(\"Torque 12\")", Depth::All, Extent::Forces},
-        {"rms(\"F Shaking\":Mag)", Depth::All, Extent::Forces},
-        {"peak(\"Flywl Torque\")", Depth::All, Extent::Flywheel},
+        {"max(Theta6)", Depth::Angles, Scope::Motion},
+        {"max(\"Trans Ang-2\")", Depth::Angles, Scope::Motion},
+        {"max(Omega3)", Depth::Speeds, Scope::Motion},
+        {"max(V-Ratio-2)", Depth::Speeds, Scope::Motion},
+        {"max(MchAdv-1)", Depth::Speeds, Scope::Motion},
+        {"max(Alpha3)", Depth::All, Scope::Motion},
+        {"max(\"Cpler Pt-1\":X)", Depth::All, Scope::Motion},
+        {"max(\"Veloc CP-2\":Mag)", Depth::All, Scope::Motion},
+        {"max(\"Accel CG 2\":Mag)", Depth::All, Scope::Forces},
+        {"max(\"Veloc CG 6\":Mag)", Depth::All, Scope::Forces},
+        {"peak(\"Torque 12\")", Depth::All, Scope::Forces},
+        {"rms(\"F Shaking\":Mag)", Depth::All, Scope::Forces},
+        {"peak(\"Flywl Torque\")", Depth::All, Scope::Flywheel},
     };
-    for (const auto& [text, depth, extent] : cases) {
+    for (const auto& [text, depth, scope] : cases) {
         EXPECT_EQ(Take(text).Needed_Depth(), depth) << text;
-        EXPECT_EQ(Take(text).Needed_Extent(), extent) << text;
+        EXPECT_EQ(Take(text).Needed_Scope(), scope) << text;
     }
 }
 

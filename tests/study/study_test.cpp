@@ -2,8 +2,6 @@
 // Single combinations: their numbers are those of a calculation of the whole model, and failures are told.
 #include "study/study.h"
 
-#include <cstring>
-
 #include "core/geometry.h"
 #include "dynamics/crank_torque_areas.h"
 #include "dynamics/solve_forces.h"

@@ -2,7 +2,6 @@
 #include "support/random_linkage.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "core/geometry.h"
 #include "core/mathematics.h"
