@@ -100,6 +100,7 @@ TEST(Atan2, OnTheAxesGivesTheProgramsConstants) {
 
 TEST(Atan2, OfTheZeroVectorIsZero) {
     EXPECT_EQ(Atan2(0.0F, 0.0F), 0.0);
+    EXPECT_FALSE(std::signbit(Atan2(0.0F, 0.0F))) << "a table would show it as -0";
     EXPECT_EQ(Atan2D(0.0F, 0.0F), 0.0);
     EXPECT_EQ(Atan2(-0.0F, -0.0F), 0.0);
 }

@@ -29,6 +29,17 @@ TEST_F(AngleStepsTest, TurnedGroundLinkKeepsTheUserAngles) {
     EXPECT_NEAR(tables.PointPos(0, 0, 0), 2 * std::cos(50 * RadiansPerDegree), 1e-5);
 }
 
+TEST_F(AngleStepsTest, TurnedGroundLinkKeepsTheUserAnglesOfAnOvershootingRow) {
+    Put_Four_Bar(2, 5, 6, 7, 50);
+    Put_Angle_Range(0, 100, 40);
+    Sweep(3);
+    Expect_Crank_Angles({0, 40, 80, 100});
+    model.Omega2Start = -10;
+    Put_Angle_Range(0, 100, 40);
+    Sweep(3);
+    Expect_Crank_Angles({100, 60, 20, 0});
+}
+
 TEST_F(AngleStepsTest, RangeThatIsNoMultipleEndsBeforeItsMaximum) {
     Put_Angle_Range(0, 100, 30);
     EXPECT_EQ(model.NumSteps, 3);
