@@ -120,7 +120,7 @@ std::string Choose_And_Compute(BatchRun& run, const std::function<std::string()>
 
 std::string Choose_And_Compute(BatchRun& run, const FunctionOptions& options, SlotLabels& labels) {
     Program& program = run.program();
-    const std::string objection = Choose_And_Compute(run, [&] {
+    std::string objection = Choose_And_Compute(run, [&] {
         return options.preset.empty() ? Choose_Functions(program, options.functions, labels)
                                       : Choose_Preset(program, options.preset, labels);
     });

@@ -11,7 +11,10 @@ namespace kervol {
 struct WorldWindow {
     double left, top, right, bottom;
 
-    bool operator==(const WorldWindow&) const = default;
+    bool operator==(const WorldWindow& other) const {
+        return Is_Same(left, other.left) && Is_Same(top, other.top) && Is_Same(right, other.right) &&
+               Is_Same(bottom, other.bottom);
+    }
 };
 
 /// Keeps the current point. Each stroke, and the clearing, moves it where `Picture` says.

@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/picture_list.h"
 
+#include "core/arithmetic.h"
+
 namespace kervol {
+
+bool Shape::operator==(const Shape& other) const {
+    return kind == other.kind && Is_Same(x1, other.x1) && Is_Same(y1, other.y1) && Is_Same(x2, other.x2) &&
+           Is_Same(y2, other.y2);
+}
 
 std::size_t PictureList::ShapeHash::operator()(const Shape& shape) const {
     std::size_t hash = static_cast<std::size_t>(shape.kind);

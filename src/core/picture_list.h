@@ -18,7 +18,7 @@ struct Shape {
     Kind kind;
     double x1, y1, x2, y2;
 
-    bool operator==(const Shape&) const = default;
+    bool operator==(const Shape& other) const;
 };
 
 struct Stroke {
