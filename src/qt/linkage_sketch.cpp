@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/linkage_sketch.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPolygonF>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "core/arithmetic.h"
 #include "core/fault.h"
@@ -19,6 +20,9 @@ namespace {
 
 constexpr int kLetterRoom = 32;  ///< logical pixels around the figure
 constexpr double kPinRadius = 3.5;
+/// Round a letter, two pixels away.
+constexpr std::pair<double, double> kRim[] = {{2, 0},  {1.4, 1.4},   {0, 2},  {-1.4, 1.4},
+                                              {-2, 0}, {-1.4, -1.4}, {0, -2}, {1.4, -1.4}};
 
 QPointF Turned(Vec point, double angle) {
     return {point.x * std::cos(angle) - point.y * std::sin(angle),
@@ -102,14 +106,14 @@ QPointF Centre_Of_Letter(const std::vector<Letter>& letters, std::size_t self) {
     return letter.at + away * 16;
 }
 
-/// With a rim in the colour of the ground, so that it can be read where it crosses a link.
+/// With a rim in the colour of the ground, so that it can be read where it crosses a link. Glyphs are drawn
+/// eight times round their place, since stroking their outlines takes a fifth of the picture's time.
 void Paint_Letter(QPainter& painter, const QPalette& palette, QPointF centre, const QString& text) {
-    QPainterPath path;
-    path.addText({}, painter.font(), text);
-    path.translate(centre - path.boundingRect().center());
-    painter.strokePath(path,
-                       QPen(palette.color(QPalette::Window), 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.fillPath(path, palette.color(QPalette::WindowText));
+    const QPointF start = centre - QFontMetricsF(painter.font()).tightBoundingRect(text).center();
+    painter.setPen(palette.color(QPalette::Window));
+    for (const auto& [x, y] : kRim) painter.drawText(start + QPointF(x, y), text);
+    painter.setPen(palette.color(QPalette::WindowText));
+    painter.drawText(start, text);
 }
 
 /// For those who cannot see the figure: the chain, and where its points stand.
