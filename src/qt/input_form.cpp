@@ -17,7 +17,7 @@ using namespace form;
 
 QHBoxLayout* New_Buttons() {
     auto* calc = New_Button("cmd_Calc");
-    calc->setToolTip("Calculates every step of the drive and draws the first.");
+    calc->setToolTip("Calculates every step of the drive and draws where it begins.");
     auto* draw = New_Button("cmd_Draw");
     draw->setToolTip("Draws the whole travel of the crank in ten steps, whatever the drive.");
     auto* step = New_Button("cmd_Step");
