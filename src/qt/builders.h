@@ -26,9 +26,9 @@ inline constexpr int kGap = 8;
 inline constexpr int kRowGap = 4;
 
 QLabel* New_Label(const QString& name);
-/// A larger, bold label.
 /// `lbl_Header`: whose design this is, and of when.
 QLabel* New_Header();
+/// A larger, bold label.
 QLabel* New_Heading(const QString& name, double size);
 QPushButton* New_Button(const QString& name);
 QRadioButton* New_Option(const QString& name, const QString& accessible, const QString& tip);
