@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QWheelEvent>
+#include <utility>
 
 #include "rendering/qt_text.h"
 
@@ -18,7 +19,10 @@ ChoiceBox::ChoiceBox(bool is_editable, QWidget* parent) : QComboBox(parent) {
     setInsertPolicy(QComboBox::NoInsert);
     setMaxVisibleItems(16);
     // What is typed is meant as it stands.
-    if (is_editable) setCompleter(nullptr);
+    if (is_editable) {
+        setCompleter(nullptr);
+        lineEdit()->installEventFilter(this);
+    }
     connect(this, &QComboBox::activated, this, [this] {
         // An editable box activates the entry that equals its text when it is left.
         if (!leaving_) Pick();
@@ -70,7 +74,17 @@ void ChoiceBox::wheelEvent(QWheelEvent* event) {
 
 void ChoiceBox::focusInEvent(QFocusEvent* event) {
     QComboBox::focusInEvent(event);
-    if (isEditable() && event->reason() != Qt::PopupFocusReason) lineEdit()->selectAll();
+    if (!isEditable() || event->reason() == Qt::PopupFocusReason) return;
+    lineEdit()->selectAll();
+    // The press that brings the focus sets the cursor and so ends the selection.
+    clicked_in_ = event->reason() == Qt::MouseFocusReason;
+}
+
+bool ChoiceBox::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease && std::exchange(clicked_in_, false) &&
+        !lineEdit()->hasSelectedText())
+        lineEdit()->selectAll();
+    return QComboBox::eventFilter(watched, event);
 }
 
 void ChoiceBox::focusOutEvent(QFocusEvent* event) {

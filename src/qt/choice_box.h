@@ -26,11 +26,13 @@ class ChoiceBox : public QComboBox {
     void wheelEvent(QWheelEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void Pick();
 
     bool leaving_ = false;
+    bool clicked_in_ = false;
 };
 
 }  // namespace kervol

@@ -58,11 +58,11 @@ QWidget* New_Mode_Choice() {
     auto* column = new QVBoxLayout(modes);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(kRowGap);
-    column->addWidget(
-        New_Option("opt_Calctype_0", "Angle steps", "Equal steps of the crank angle, constant speed."));
     column->addWidget(New_Option("opt_Calctype_1", "One position", "A single crank angle."));
     column->addWidget(New_Option("opt_Calctype_2", "Time steps",
                                  "Equal steps of time, constant acceleration of the crank."));
+    column->addWidget(
+        New_Option("opt_Calctype_0", "Angle steps", "Equal steps of the crank angle, constant speed."));
     for (auto* mode : modes->findChildren<QRadioButton*>()) mode->setText(mode->accessibleName());
     return modes;
 }

@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <QToolTip>
 
+#include "core/fault.h"
 #include "qt/look.h"
 #include "screens/fields.h"
 
@@ -22,9 +23,14 @@ const QRegularExpression& Whole_Number_Text() {
 
 QString Unread_Note(const QString& text) {
     if (Whole_Number_Text().match(text).hasMatch()) return {};
-    // Of a zero without its sign.
-    const double read = Typed_Number(text.toStdString()) + 0.0;
-    const QString note = "Read as " + QString::number(read, 'g', 7) + ".";
+    QString note;
+    try {
+        // Of a zero without its sign.
+        const double read = Typed_Number(text.toStdString()) + 0.0;
+        note = "Read as " + QString::number(read, 'g', 7) + ".";
+    } catch (const Fault&) {
+        note = "Too large to be read.";
+    }
     return text.contains(',') ? note + " Numbers are written with a point." : note;
 }
 

@@ -250,6 +250,18 @@ void QtPort::Open_Window(ScreenId screen, Modality modality) {
     if (auto* edit = qobject_cast<QLineEdit*>(window.focusWidget())) edit->selectAll();
 }
 
+/// Off the stack again also where a fault ends the waiting.
+class QtPort::OnStack {
+  public:
+    OnStack(std::vector<StackEntry*>& stack, StackEntry& entry) : stack_(stack) { stack_.push_back(&entry); }
+    ~OnStack() { stack_.pop_back(); }
+    OnStack(const OnStack&) = delete;
+    OnStack& operator=(const OnStack&) = delete;
+
+  private:
+    std::vector<StackEntry*>& stack_;
+};
+
 void QtPort::Wait_For(ScreenId screen) {
     if (!stack_.empty() && stack_.back()->closed) {
         stack_.back()->next = screen;
@@ -257,14 +269,15 @@ void QtPort::Wait_For(ScreenId screen) {
     }
     QEventLoop loop;
     StackEntry entry{screen, &loop};
-    stack_.push_back(&entry);
-    for (std::optional<ScreenId> next = screen; next && !ended_; next = std::exchange(entry.next, {})) {
-        entry.screen = *next;
-        entry.closed = false;
-        Open_Window(*next, Modality::Modal);
-        if (!entry.closed) loop.exec();
+    {
+        const OnStack stands(stack_, entry);
+        for (std::optional<ScreenId> next = screen; next && !ended_; next = std::exchange(entry.next, {})) {
+            entry.screen = *next;
+            entry.closed = false;
+            Open_Window(*next, Modality::Modal);
+            if (!entry.closed) loop.exec();
+        }
     }
-    stack_.pop_back();
     if (!ended_) Return_To_Opener();
 }
 

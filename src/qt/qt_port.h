@@ -68,6 +68,7 @@ class QtPort : public Port {
         bool closed = false;
         std::optional<ScreenId> next = {};  ///< takes its place
     };
+    class OnStack;
 
     OpenForm& Made_Form(ScreenId screen);
     void Lay_Out(ScreenId screen, OpenForm& form);

@@ -219,12 +219,16 @@ void Keep_Typed_Drive(Screens& screens) {
 void opt_Calctype_Click(Screens& screens, std::int16_t mode) {
     LinkageModel& model = screens.program.model;
     if (model.Loading || screens.frm_Inputnew.Filling) return;
+    InputScreen& screen = screens.frm_Inputnew;
     Keep_Typed_Drive(screens);
+    // From here on the model's own count: what was typed long ago must not come back once it was changed
+    // there.
+    Put_Omega_Alpha(model, screen);
     model.CalcMode = mode;
     Show_Mode(screens);
     model.DataCalculated = false;
     // One position has nothing to animate.
-    if (mode == 1) screens.frm_Inputnew.cmd_Animate.enabled = false;
+    screen.cmd_Animate.enabled = mode != 1 && screen.cmd_Next.enabled;
 }
 
 void opt_OpenCross_Click(Screens& screens) {

@@ -105,12 +105,19 @@ void cmd_Solve_Click(Screens& screens) {
     program.port.Set_Pointer(Pointer::Default);
 }
 
-/// Cancel and a refused file clear the box again, which undoes all that setting it did.
+/// Cancel, a refused file and one that cannot be opened clear the box again, which undoes all that setting it
+/// did.
 void Import_Torque_Function(Screens& screens) {
     MassPropScreen& screen = screens.frm_MassProp;
     const auto path = screens.program.port.Ask_File_To_Open(
         {"Open a Torque Data file", "Torque Import (*.trq)|*.trq|(*.*)|*.*|", "*.trq"});
-    const bool imported = path && Import_Torque(screens.program, *path) != ReadEnd::Refused;
+    bool imported = false;
+    try {
+        imported = path && Import_Torque(screens.program, *path) != ReadEnd::Refused;
+    } catch (const Fault&) {
+        Put_Check(screen.chk_Torque, false);
+        throw;
+    }
     if (imported)
         screen.cmd_Solve.enabled = true;
     else

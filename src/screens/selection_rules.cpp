@@ -165,7 +165,9 @@ void cmb_Var_DblClick(Program& program, SelectionForm& form, std::size_t slot) {
     Variable_Picked(program, form, slot);
     if (!All_Slots_Hold_Choice(form)) return;
     cmd_OK_Click(program, form, slot);
-    if (form.cmd_Done.enabled && form.cmd_Done.click) form.cmd_Done.click();
+    // A gap, of which the user was told, keeps them here.
+    const bool complete = static_cast<std::size_t>(Count_Slots(form).filled) == form.kind.functions;
+    if (complete && form.cmd_Done.enabled && form.cmd_Done.click) form.cmd_Done.click();
 }
 
 /// Fills the boxes as a person would, then presses OK of each slot.

@@ -87,6 +87,21 @@ TEST_F(AnalysisWindowTest, ATypedNumberOfHarmonicsIsTakenByEnter) {
     });
 }
 
+TEST_F(AnalysisWindowTest, AClickIntoTheNumberOfHarmonicsSelectsItForTyping) {
+    In(ScreenId::frm_FFT, [](FormWindow& form) {
+        ChoiceBox& box = Box(form, "cmb_Harmonics");
+        form.findChild<QWidget*>("cmd_Calc")->setFocus();
+        const QPoint inside(4, box.lineEdit()->height() / 2);
+        QTest::mouseClick(box.lineEdit(), Qt::LeftButton, Qt::NoModifier, inside);
+        EXPECT_EQ(box.lineEdit()->selectedText(), "18");
+        QTest::mouseClick(box.lineEdit(), Qt::LeftButton, Qt::NoModifier, inside);
+        EXPECT_EQ(box.lineEdit()->selectedText(), "") << "a second click sets the cursor";
+        box.lineEdit()->selectAll();
+        QTest::keyClicks(&box, "40");
+        EXPECT_EQ(box.currentText(), "40");
+    });
+}
+
 TEST_F(AnalysisWindowTest, ATypedNumberOfHarmonicsIsTakenByTheCalculateButton) {
     In(ScreenId::frm_FFT, [this](FormWindow& form) {
         ChoiceBox& box = Box(form, "cmb_Harmonics");

@@ -24,6 +24,8 @@ TEST(NumberField, TheNoteSaysWhatIsRead) {
     EXPECT_EQ(Unread_Note("12 mm"), "Read as 12.");
     EXPECT_EQ(Unread_Note("crank"), "Read as 0.");
     EXPECT_EQ(Unread_Note("e5"), "Read as 0.");
+    EXPECT_EQ(Unread_Note("1e400 mm"), "Too large to be read.");
+    EXPECT_EQ(Unread_Note("1e400,"), "Too large to be read. Numbers are written with a point.");
 }
 
 using NumberFieldWindow = WindowTest;
@@ -43,6 +45,16 @@ TEST_F(NumberFieldWindow, ACommaIsMarkedUntilItIsMended) {
         Type(form, "txt_Linkout_1", "2.5");
         EXPECT_EQ(field.palette().color(QPalette::Text), plain);
         EXPECT_EQ(field.toolTip(), tip);
+    });
+}
+
+TEST_F(NumberFieldWindow, ANumberTooLargeIsMarkedAndTheScreenGoesOn) {
+    In(ScreenId::frm_Inputnew, [this](FormWindow& form) {
+        Type(form, "txt_Linkout_1", "1e400 1");
+        EXPECT_EQ(QToolTip::text(), "Too large to be read.");
+        Type(form, "txt_Linkout_1", "2.5");
+        EXPECT_TRUE(form.isVisible());
+        EXPECT_EQ(Typed_Number(screens.frm_Inputnew.txt_Linkout[1].text), 2.5);
     });
 }
 

@@ -335,6 +335,30 @@ TEST_F(FieldEvents, ATypedSpeedOutlivesAChangeOfMode) {
     EXPECT_EQ(Initial(5).text, "45");
 }
 
+TEST_F(FieldEvents, AnAccelerationThatAngleStepsHaveClearedDoesNotComeBack) {
+    Choose(input.opt_Calctype, 2);
+    Edit(Initial(4), "7");
+    input.cmd_Calc.click();
+    ASSERT_EQ(model.Alpha2Const, 7);
+    Choose(input.opt_Calctype, 0);
+    input.cmd_Calc.click();
+    Choose(input.opt_Calctype, 2);
+    EXPECT_EQ(Initial(4).text, "0");
+    EXPECT_EQ(model.Alpha2Const, 0);
+}
+
+TEST_F(FieldEvents, AnimateComesBackBehindOnePosition) {
+    input.cmd_Calc.click();
+    ASSERT_TRUE(input.cmd_Animate.enabled);
+    Choose(input.opt_Calctype, 1);
+    EXPECT_FALSE(input.cmd_Animate.enabled) << "nothing to animate";
+    Choose(input.opt_Calctype, 0);
+    EXPECT_TRUE(input.cmd_Animate.enabled);
+    Edit(Initial(3), "5");
+    Choose(input.opt_Calctype, 2);
+    EXPECT_FALSE(input.cmd_Animate.enabled) << "an edit turned the outputs off";
+}
+
 TEST_F(FieldEvents, TheOnePositionIsMirroredOnBothScreens) {
     Choose(input.opt_Calctype, 1);
     Edit(Initial(5), "33");

@@ -311,9 +311,10 @@ TEST_F(TorqueImport, TakesTheFileAndLetsItBeSolved) {
     EXPECT_FALSE(model.DataSaved);
 }
 
-TEST_F(TorqueImport, IsUndoneByCancelAndByARefusedFile) {
+TEST_F(TorqueImport, IsUndoneByCancelByARefusedFileAndByOneThatCannotBeOpened) {
     const std::string other = Written("other.trq", "7\r\n");
-    for (const auto& answer : {std::optional<std::string>(), std::optional<std::string>(other)}) {
+    const std::string none = folder / "none.trq";
+    for (const auto& answer : {std::optional<std::string>(), std::optional(other), std::optional(none)}) {
         port.files = {answer};
         Tick();
         while (Boxes_Left() > 0) Take_Box();

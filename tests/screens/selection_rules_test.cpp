@@ -284,6 +284,21 @@ TEST_F(SelectionRules, ADoubleClickOnTheLastMissingVariableGoesOn) {
     EXPECT_EQ(selections.NumSelected, 4);
 }
 
+TEST_F(SelectionRules, ADoubleClickStaysWhereAnotherSlotIsNotConfirmed) {
+    int done = 0;
+    single.cmd_Done.click = [&done] { ++done; };
+    Open_Mix(single);
+    for (std::size_t k = 1; k <= 4; ++k) Confirm(single, k, "Theta3");
+    Pick_Variable(single, 1, "Theta4");
+    single.cmb_Var[3].text = "Theta6";
+    single.cmb_Var[3].double_click();
+    EXPECT_NE(Take_Box().text.find("You are missing a plot selection."), std::string::npos);
+    EXPECT_EQ(done, 0);
+    single.cmd_OK[0].click();
+    single.cmb_Var[3].double_click();
+    EXPECT_EQ(done, 1);
+}
+
 TEST_F(SelectionRules, ThePlainOnesAmongCentresOfGravityAndFlywheelOpenTheirComponents) {
     Open_Mix(print);
     for (const char* plain : {"Veloc CG 2", "Flywl Torque", "F Shaking", "Cpler Pt-2"}) {
