@@ -75,7 +75,7 @@ class Recipes(unittest.TestCase):
                     self.assertTrue(fits(expected, printed), "printed\n" + "\n".join(printed[:40]))
 
     def test_of_the_first_design_print_what_they_say(self):
-        self.check("first-design.md")
+        self.check("ten-minutes.md")
 
     def test_of_the_command_line_print_what_they_say(self):
         self.check("batch.md")
